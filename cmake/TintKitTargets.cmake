@@ -1,0 +1,52 @@
+# SPDX-License-Identifier: MIT
+# The shapes our targets come in, so that a folder's CMakeLists.txt only lists what it holds.
+
+# What libraries and programs have in common.
+function(tintkit_configure target)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tintkit_settings>)
+    if(WIN32)
+        target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tintkit_windows>)
+    endif()
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+        $<INSTALL_INTERFACE:include/tintkit>)
+endfunction()
+
+# tintkit_add_library(NAME SOURCE...): the static library TintKit::NAME.
+function(tintkit_add_library name)
+    add_library(tintkit_${name} STATIC ${ARGN})
+    add_library(TintKit::${name} ALIAS tintkit_${name})
+    set_target_properties(tintkit_${name} PROPERTIES EXPORT_NAME ${name})
+    tintkit_configure(tintkit_${name})
+endfunction()
+
+# tintkit_add_program(NAME SOURCE...): the console program NAME.
+function(tintkit_add_program name)
+    add_executable(${name} ${ARGN})
+    tintkit_configure(${name})
+endfunction()
+
+# tintkit_add_test(NAME TIMEOUT SECONDS SOURCES ... LIBRARIES ...): the program NAME_test, run as
+# one test. A message box that waits for ever is ended by the time limit.
+function(tintkit_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
+    tintkit_add_program(${name}_test ${arg_SOURCES})
+    target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES})
+    add_test(NAME ${TINTKIT_TEST_PREFIX}${name} COMMAND ${name}_test)
+    set_tests_properties(${TINTKIT_TEST_PREFIX}${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    if(WIN32)
+        # There is one keyboard, one mouse and one foreground window.
+        set_tests_properties(${TINTKIT_TEST_PREFIX}${name} PROPERTIES RESOURCE_LOCK screen)
+    endif()
+endfunction()
+
+# Tells the tests of the build trees apart where all are run together.
+if(WIN32)
+    set(TINTKIT_TEST_PREFIX windows.)
+elseif(TINTKIT_BUILD_FUZZ)
+    set(TINTKIT_TEST_PREFIX fuzz.)
+elseif(TINTKIT_SANITIZE)
+    set(TINTKIT_TEST_PREFIX sanitize.)
+else()
+    set(TINTKIT_TEST_PREFIX native.)
+endif()
