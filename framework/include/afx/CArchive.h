@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// CArchive: stores values and objects to a file and loads them again.
+///
+///     CArchive archive(&file, CArchive::store);
+///     archive << count << name << shape;
+///     archive.Close();
+#pragma once
+
+#include "afx/CArchiveException.h"
+#include "afx/CFile.h"
+
+#include <unordered_map>
+#include <vector>
+
+class CDocument;
+
+namespace afx {
+class ArchiveCount;
+}
+
+/// One pass of storing or loading over a file. Values are little-endian. Objects keep their
+/// identity: several pointers to one object are one object after loading.
+///
+/// Loading trusts nothing it reads: a damaged or hostile file ends in CArchiveException, and no
+/// length or count makes it allocate memory that the file cannot fill. Functions throw
+/// CArchiveException, and CFileException where the file fails.
+class CArchive {
+public:
+    enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2 };
+
+    /// @param pFile file to work on, open for the whole life of the archive.
+    /// @param nMode store or load, combined with bNoFlushOnDelete where the destructor shall not
+    ///              write what is buffered.
+    /// @param lpBuf buffer of nBufSize bytes, null to have one made.
+    CArchive(CFile* pFile, UINT nMode, int nBufSize = 4096, void* lpBuf = nullptr);
+    /// Closes the archive. An error then is lost: call Close() to learn of it.
+    ~CArchive();
+    CArchive(const CArchive&) = delete;
+    CArchive& operator=(const CArchive&) = delete;
+
+    BOOL IsLoading() const;
+    BOOL IsStoring() const;
+    BOOL IsBufferEmpty() const;
+    CFile* GetFile() const;
+
+    /// Any document that the objects shall know of; the archive does not use it.
+    CDocument* m_pDocument;
+
+    /// Writes what is buffered and parts from the file.
+    void Close();
+    /// Parts from the file without writing what is buffered.
+    void Abort();
+    /// Storing: writes what is buffered. Loading: moves the file back to the archive's place.
+    void Flush();
+
+    /// @return the number of bytes read; less than nMax only at the end of the file.
+    UINT Read(void* lpBuf, UINT nMax);
+    void Write(const void* lpBuf, INT nMax);
+    /// Writes the characters without a terminating null.
+    void WriteString(LPCTSTR lpsz);
+    /// Reads a line, without its line end, up to nMax - 1 characters.
+    /// @return the buffer, null when the file has ended.
+    LPTSTR ReadString(LPTSTR lpsz, UINT nMax);
+    /// @return false when the file has ended.
+    BOOL ReadString(CString& rString);
+
+    /// Loads an object; the caller owns it, together with all others that point to it.
+    /// @param pClass class that the object must have or derive from; null accepts any.
+    CObject* ReadObject(const CRuntimeClass* pClass);
+    void WriteObject(const CObject* pOb);
+    /// Makes an object known to those stored or loaded after it, without storing it.
+    void MapObject(const CObject* pOb);
+    void WriteClass(const CRuntimeClass* pClassRef);
+    /// @param pSchema receives the schema number. @param pObTag receives the tag of an object
+    ///        where one stands in place of a class; without it that is an error.
+    CRuntimeClass* ReadClass(const CRuntimeClass* pClassRefRequested = nullptr,
+                             UINT* pSchema = nullptr, DWORD* pObTag = nullptr);
+    void SerializeClass(const CRuntimeClass* pClassRef);
+    /// Schema number of the object being loaded; -1 when unknown or asked for the second time.
+    UINT GetObjectSchema();
+    void SetObjectSchema(UINT nSchema);
+
+    CArchive& operator<<(BYTE by);
+    CArchive& operator<<(WORD w);
+    CArchive& operator<<(LONG l);
+    CArchive& operator<<(DWORD dw);
+    CArchive& operator<<(float f);
+    CArchive& operator<<(double d);
+    CArchive& operator<<(int i);
+    CArchive& operator<<(short w);
+    CArchive& operator<<(char ch);
+    CArchive& operator<<(wchar_t ch);
+    CArchive& operator<<(unsigned u);
+    CArchive& operator<<(bool b);
+    CArchive& operator<<(ULONGLONG dwdw);
+    CArchive& operator<<(LONGLONG dwdw);
+    CArchive& operator<<(const CString& str);
+
+    CArchive& operator>>(BYTE& by);
+    CArchive& operator>>(WORD& w);
+    CArchive& operator>>(LONG& l);
+    CArchive& operator>>(DWORD& dw);
+    CArchive& operator>>(float& f);
+    CArchive& operator>>(double& d);
+    CArchive& operator>>(int& i);
+    CArchive& operator>>(short& w);
+    CArchive& operator>>(char& ch);
+    CArchive& operator>>(wchar_t& ch);
+    CArchive& operator>>(unsigned& u);
+    CArchive& operator>>(bool& b);
+    CArchive& operator>>(ULONGLONG& dwdw);
+    CArchive& operator>>(LONGLONG& dwdw);
+    CArchive& operator>>(CString& str);
+
+private:
+    friend class afx::ArchiveCount;
+
+    /// What an index in the file stands for; exactly one of both pointers is set.
+    struct LoadedEntry {
+        CObject* object;
+        CRuntimeClass* runtimeClass;
+        UINT schema;
+        bool shared;
+    };
+
+    template <class VALUE>
+    CArchive& put(VALUE value);
+    template <class VALUE>
+    CArchive& get(VALUE& value);
+    void requireStoring() const;
+    void requireLoading() const;
+    [[noreturn]] void fail(int cause) const;
+    bool fillBuffer();
+    void readExactly(void* data, size_t size);
+    ULONGLONG bytesLeft() const;
+    ULONGLONG readStringLength(bool& wide);
+    DWORD nextIndex() const;
+    void checkRoomForIndex() const;
+    void storeTag(DWORD index, DWORD bigFlag, WORD smallFlag);
+    void storeClassDescription(const CRuntimeClass* runtimeClass);
+    CRuntimeClass* loadClassDescription(UINT& schema);
+    CObject* existingObject(DWORD index, const CRuntimeClass* requested);
+    CObject* newObject(CRuntimeClass* runtimeClass, UINT schema);
+
+    CFile* m_file;
+    bool m_storing;
+    bool m_flushOnDelete;
+    std::vector<BYTE> m_ownBuffer;
+    BYTE* m_buffer;
+    size_t m_bufferSize;
+    /// Storing: bytes waiting to be written. Loading: place of the next byte to hand out.
+    size_t m_used = 0;
+    /// Loading: bytes in the buffer.
+    size_t m_filled = 0;
+    UINT m_objectSchema;
+    int m_depth = 0;
+    std::unordered_map<const void*, DWORD> m_stored;
+    std::vector<LoadedEntry> m_loaded;
+};
+
+CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);
+CArchive& AFXAPI operator>>(CArchive& ar, CObject*& pOb);
+CArchive& AFXAPI operator>>(CArchive& ar, const CObject*& pOb);
+CArchive& AFXAPI operator<<(CArchive& ar, const RECT& rect);
+CArchive& AFXAPI operator<<(CArchive& ar, POINT point);
+CArchive& AFXAPI operator<<(CArchive& ar, SIZE size);
+CArchive& AFXAPI operator>>(CArchive& ar, RECT& rect);
+CArchive& AFXAPI operator>>(CArchive& ar, POINT& point);
+CArchive& AFXAPI operator>>(CArchive& ar, SIZE& size);
+
+namespace afx {
+/// The number of elements in front of a stored collection.
+class ArchiveCount {
+public:
+    static void write(CArchive& archive, INT_PTR count);
+    /// Throws CArchiveException when the rest of the file cannot hold that many elements.
+    /// @param minBytes the fewest bytes that one element takes in the file, at least 1.
+    static INT_PTR read(CArchive& archive, size_t minBytes = 1);
+};
+} // namespace afx

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "afx/CWnd.h"
+
+/// A push button, check box, radio button or group box. Pictures stay the caller's.
+class CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+
+public:
+    CButton();
+
+    virtual BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                        UINT nID);
+
+    /// BST_ flags: checked, pushed, focused.
+    UINT GetState() const;
+    void SetState(BOOL bHighlight);
+    int GetCheck() const;
+    void SetCheck(int nCheck);
+    /// The BS_ style in its low bits.
+    UINT GetButtonStyle() const;
+    void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE);
+
+    HICON SetIcon(HICON hIcon);
+    HICON GetIcon() const;
+    HBITMAP SetBitmap(HBITMAP hBitmap);
+    HBITMAP GetBitmap() const;
+    HCURSOR SetCursor(HCURSOR hCursor);
+    HCURSOR GetCursor();
+
+    BOOL GetIdealSize(SIZE* psize);
+    BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
+    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
+    BOOL SetTextMargin(RECT* pmargin);
+    BOOL GetTextMargin(RECT* pmargin);
+
+    /// Draws a button with BS_OWNERDRAW. Override it.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+};

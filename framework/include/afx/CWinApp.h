@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// CWinApp: the application; and the functions that ask for it and its resources.
+#pragma once
+
+#include "afx/CWinThread.h"
+
+/// What a command line asks for.
+class CCommandLineInfo : public CObject {
+public:
+    CCommandLineInfo();
+
+    /// Called for each parameter.
+    /// @param bFlag TRUE for a parameter that began with "-" or "/", which is taken off.
+    /// @param bLast TRUE for the last one.
+    virtual void ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast);
+
+    BOOL m_bShowSplash;
+    BOOL m_bRunEmbedded;
+    BOOL m_bRunAutomated;
+    enum {
+        FileNew,
+        FileOpen,
+        FilePrint,
+        FilePrintTo,
+        FileDDE,
+        AppRegister,
+        AppUnregister,
+        RestartByRestartManager,
+        FileNothing = -1
+    } m_nShellCommand;
+    /// The first parameter that is not a flag.
+    CString m_strFileName;
+    CString m_strPrinterName;
+    CString m_strDriverName;
+    CString m_strPortName;
+
+private:
+    void ParseFlag(const TCHAR* flag);
+    void ParseName(const TCHAR* name);
+};
+
+/// The application; a program has one global object of a class derived from it.
+///
+/// The names are allocated with malloc and freed by the destructor.
+class CWinApp : public CWinThread {
+    DECLARE_DYNAMIC(CWinApp)
+
+public:
+    explicit CWinApp(LPCTSTR lpszAppName = NULL);
+    ~CWinApp() override;
+
+    HINSTANCE m_hInstance;
+    LPTSTR m_lpCmdLine;
+    /// How the main window is to be shown; for CWnd::ShowWindow.
+    int m_nCmdShow;
+    LPCTSTR m_pszAppName;
+    /// Name of the executable file without extension.
+    LPCTSTR m_pszExeName;
+    LPCTSTR m_pszHelpFilePath;
+    /// Name of the INI file, or of the application's registry key under the company's.
+    LPCTSTR m_pszProfileName;
+    /// The company's registry key; null while the profile is an INI file.
+    LPCTSTR m_pszRegistryKey;
+
+    /// @name Profile: settings in the registry, after SetRegistryKey(), or in an INI file
+    /// @{
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = NULL);
+    /// A null value deletes the entry; a null entry deletes the section.
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /// @param ppData receives a block to be freed with delete[].
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+    /// Deletes a key and everything below it. @return a Windows error code.
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
+    /// @}
+
+    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
+    HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
+    HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    HICON LoadIcon(UINT nIDResource) const;
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
+    HICON LoadOEMIcon(UINT nIDIcon) const;
+
+    /// Gives each parameter of the command line to CCommandLineInfo::ParseParam.
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+    void HideApplication();
+
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+    int Run() override;
+    BOOL OnIdle(LONG lCount) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL ProcessMessageFilter(int code, LPMSG lpMsg) override;
+    LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
+    /// Shows the box of AfxMessageBox().
+    virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+    /// Counts the wait cursors. @param nCode 1 begins, -1 ends, 0 shows it again.
+    virtual void DoWaitCursor(int nCode);
+
+protected:
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    void SetRegistryKey(UINT nIDRegistryKey);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend struct afx::WndAccess;
+
+    void InitNames();
+    void OnAppExit();
+    HKEY OpenAppKey();
+    HKEY OpenSectionKey(LPCTSTR section);
+
+    int m_waitCursors;
+    HCURSOR m_cursorBefore;
+    // Not for programs, which have one application: a test puts its own in the place of another.
+    CWinApp* const m_outerApp;
+    CWinThread* const m_outerThread;
+};
+
+/// Shows the wait cursor while the object exists.
+class CWaitCursor {
+public:
+    CWaitCursor();
+    ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+
+    /// Shows it again after something else has changed the cursor.
+    void Restore();
+};
+
+/// The application object; null in a program without one.
+CWinApp* AFXAPI AfxGetApp();
+/// The main window of the calling thread, else of the application; may be null.
+CWnd* AFXAPI AfxGetMainWnd();
+LPCTSTR AFXAPI AfxGetAppName();
+HINSTANCE AFXAPI AfxGetInstanceHandle();
+HINSTANCE AFXAPI AfxGetResourceHandle();
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
+/// The module a resource is to be loaded from.
+HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
+
+/// Shows a message box owned by the main window, through CWinApp::DoMessageBox.
+int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
+int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = (UINT)-1);
+/// Loads a string and puts lpsz1 in the place of "%1".
+void AFXAPI AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
+void AFXAPI AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
+/// Copies the part of that index out of a separated list. FALSE when there are not so many.
+BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString,
+                                TCHAR chSep = '\n');
+
+/// Prepares the framework; the program's own main function calls it if WinMain is not used.
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                       int nCmdShow);
+/// The framework's main function: prepares, runs and ends the application.
+int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
+/// Accepted for source compatibility: there are no ActiveX controls.
+void AFXAPI AfxEnableControlContainer();

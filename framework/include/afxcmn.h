@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+/// @file
+/// The common controls.
+#pragma once
+
+#include <afxwin.h>
+#include <commctrl.h>

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "afx/CObject.h"
+
+#include "afx/CDumpContext.h"
+#include "afx/Diagnostics.h"
+
+const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr, nullptr};
+
+static const afx::ClassRegistration registerCObject(CObject::GetThisClass());
+
+CRuntimeClass* PASCAL CObject::GetThisClass() {
+    return const_cast<CRuntimeClass*>(&classCObject);
+}
+
+CRuntimeClass* CObject::GetRuntimeClass() const {
+    return GetThisClass();
+}
+
+BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
+    return GetRuntimeClass()->IsDerivedFrom(pClass);
+}
+
+BOOL CObject::IsSerializable() const {
+    return GetRuntimeClass()->m_wSchema != 0xFFFF;
+}
+
+void CObject::Serialize(CArchive& ar) {
+    UNUSED_ALWAYS(ar);
+}
+
+void CObject::AssertValid() const {
+    ASSERT(this->GetRuntimeClass() != nullptr);
+}
+
+void CObject::Dump(CDumpContext& dc) const {
+    dc << "a " << GetRuntimeClass()->m_lpszClassName << " at " << static_cast<const void*>(this)
+       << "\n";
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include <afxwin.h>
+
+#include "Send.h"
+
+using afx::Send;
+
+IMPLEMENT_DYNAMIC(CStatic, CWnd)
+
+CStatic::CStatic() = default;
+
+BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                     UINT nID) {
+    return CWnd::Create(WC_STATIC, lpszText, dwStyle, rect, pParentWnd, nID);
+}
+
+HBITMAP CStatic::SetBitmap(HBITMAP hBitmap) {
+    return Send<HBITMAP>(*this, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
+}
+
+HBITMAP CStatic::GetBitmap() const {
+    return Send<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP);
+}
+
+HICON CStatic::SetIcon(HICON hIcon) {
+    return Send<HICON>(*this, STM_SETIMAGE, IMAGE_ICON, hIcon);
+}
+
+HICON CStatic::GetIcon() const {
+    return Send<HICON>(*this, STM_GETIMAGE, IMAGE_ICON);
+}
+
+HCURSOR CStatic::SetCursor(HCURSOR hCursor) {
+    return Send<HCURSOR>(*this, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
+}
+
+HCURSOR CStatic::GetCursor() {
+    return Send<HCURSOR>(*this, STM_GETIMAGE, IMAGE_CURSOR);
+}
+
+HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile) {
+    return Send<HENHMETAFILE>(*this, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
+}
+
+HENHMETAFILE CStatic::GetEnhMetaFile() const {
+    return Send<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
+}
+
+void CStatic::DrawItem(LPDRAWITEMSTRUCT) {
+}
+
+BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (message != WM_DRAWITEM) {
+        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include <afxwin.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "ModuleState.h"
+#include "ThreadState.h"
+
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+END_MESSAGE_MAP()
+
+namespace {
+
+CWinApp* theApplication = nullptr;
+
+LPCTSTR Duplicate(LPCTSTR text) {
+    return ::_strdup(text);
+}
+
+void Free(LPCTSTR text) {
+    std::free(const_cast<LPTSTR>(text));
+}
+
+/// The path of the program, split where its name begins and ends.
+struct ProgramPath {
+    ProgramPath() {
+        char path[MAX_PATH] = {};
+        ::GetModuleFileName(afx::InstanceHandle(), path, MAX_PATH - 1);
+        const CString all(path);
+        const int name = all.ReverseFind('\\') + 1;
+        const int dot = all.ReverseFind('.');
+        withoutExtension = dot > name ? all.Left(dot) : all;
+        title = withoutExtension.Mid(name);
+    }
+
+    CString withoutExtension;
+    CString title;
+};
+
+} // namespace
+
+CWinApp* AFXAPI AfxGetApp() {
+    return theApplication;
+}
+
+CWinApp::CWinApp(LPCTSTR lpszAppName)
+    : m_hInstance(afx::InstanceHandle()), m_lpCmdLine(nullptr), m_nCmdShow(SW_SHOWNORMAL),
+      m_pszAppName(lpszAppName == nullptr ? nullptr : Duplicate(lpszAppName)),
+      m_pszExeName(nullptr), m_pszHelpFilePath(nullptr), m_pszProfileName(nullptr),
+      m_pszRegistryKey(nullptr), m_waitCursors(0), m_cursorBefore(nullptr),
+      m_outerApp(theApplication), m_outerThread(AfxGetThread()) {
+    theApplication = this;
+    afx::CurrentThread().thread = this;
+    m_hThread = ::GetCurrentThread();
+    m_nThreadID = ::GetCurrentThreadId();
+    InitNames();
+}
+
+CWinApp::~CWinApp() {
+    Free(m_pszAppName);
+    Free(m_pszExeName);
+    Free(m_pszHelpFilePath);
+    Free(m_pszProfileName);
+    Free(m_pszRegistryKey);
+    if (theApplication == this) {
+        theApplication = m_outerApp;
+        afx::CurrentThread().thread = m_outerThread;
+    }
+}
+
+void CWinApp::InitNames() {
+    const ProgramPath program;
+    m_pszExeName = Duplicate(program.title);
+    m_pszHelpFilePath = Duplicate(program.withoutExtension + ".HLP");
+    m_pszProfileName = Duplicate(program.title + ".INI");
+    if (m_pszAppName == nullptr) {
+        CString title;
+        m_pszAppName = Duplicate(title.LoadString(AFX_IDS_APP_TITLE) ? title : program.title);
+    }
+}
+
+// ---- Running ------------------------------------------------------------------------------------
+
+BOOL CWinApp::InitInstance() {
+    return TRUE;
+}
+
+int CWinApp::ExitInstance() {
+    return CWinThread::ExitInstance();
+}
+
+int CWinApp::Run() {
+    if (m_pMainWnd == nullptr) {
+        // Nothing would ever end the loop.
+        TRACE("Warning: an application without a main window ends at once.\n");
+        ::PostQuitMessage(0);
+    }
+    return CWinThread::Run();
+}
+
+BOOL CWinApp::OnIdle(LONG lCount) {
+    return CWinThread::OnIdle(lCount);
+}
+
+BOOL CWinApp::PreTranslateMessage(MSG* pMsg) {
+    return CWinThread::PreTranslateMessage(pMsg);
+}
+
+BOOL CWinApp::ProcessMessageFilter(int code, LPMSG lpMsg) {
+    return CWinThread::ProcessMessageFilter(code, lpMsg);
+}
+
+LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
+    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
+        return CWinThread::ProcessWndProcException(e, pMsg);
+    }
+    const bool isCommand = pMsg->message == WM_COMMAND;
+    // Whoever throws a CUserException has told the user.
+    if (!e->IsKindOf(RUNTIME_CLASS(CUserException))) {
+        AfxMessageBox(isCommand ? "Command failed." : "Internal application error.",
+                      MB_ICONEXCLAMATION | MB_SYSTEMMODAL);
+    }
+    return isCommand ? TRUE : 0;
+}
+
+void CWinApp::OnAppExit() {
+    if (m_pMainWnd != nullptr) {
+        m_pMainWnd->SendMessage(WM_CLOSE);
+    }
+}
+
+void CWinApp::HideApplication() {
+    if (m_pMainWnd != nullptr) {
+        m_pMainWnd->ShowWindow(SW_HIDE);
+        m_pMainWnd->ShowOwnedPopups(FALSE);
+        m_pMainWnd->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+    }
+}
+
+int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
+    HWND top = nullptr;
+    const HWND owner = CWnd::GetSafeOwner(nullptr, &top)->GetSafeHwnd();
+    const int answer = ::MessageBox(owner, lpszPrompt, m_pszAppName, nType);
+    if (top != nullptr) {
+        ::EnableWindow(top, TRUE);
+    }
+    return answer;
+}
+
+void CWinApp::DoWaitCursor(int nCode) {
+    ASSERT(nCode >= -1 && nCode <= 1);
+    m_waitCursors += nCode;
+    if (m_waitCursors <= 0) {
+        m_waitCursors = 0;
+        ::SetCursor(m_cursorBefore);
+        return;
+    }
+    const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+    if (nCode > 0 && m_waitCursors == 1) {
+        m_cursorBefore = before;
+    }
+}
+
+// ---- Cursors and icons --------------------------------------------------------------------------
+
+HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR),
+                        lpszResourceName);
+}
+
+HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
+    return LoadCursor(MAKEINTRESOURCE(nIDResource));
+}
+
+HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const {
+    return ::LoadCursor(nullptr, lpszCursorName);
+}
+
+HCURSOR CWinApp::LoadOEMCursor(UINT nIDCursor) const {
+    return ::LoadCursor(nullptr, MAKEINTRESOURCE(nIDCursor));
+}
+
+HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
+    return ::LoadIcon(AfxFindResourceHandle(lpszResourceName, RT_GROUP_ICON), lpszResourceName);
+}
+
+HICON CWinApp::LoadIcon(UINT nIDResource) const {
+    return LoadIcon(MAKEINTRESOURCE(nIDResource));
+}
+
+HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
+    return ::LoadIcon(nullptr, lpszIconName);
+}
+
+HICON CWinApp::LoadOEMIcon(UINT nIDIcon) const {
+    return ::LoadIcon(nullptr, MAKEINTRESOURCE(nIDIcon));
+}
+
+// ---- Command line -------------------------------------------------------------------------------
+
+void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo) {
+    for (int i = 1; i < __argc; ++i) {
+        LPCTSTR parameter = __argv[i];
+        const bool isFlag = parameter[0] == '-' || parameter[0] == '/';
+        rCmdInfo.ParseParam(isFlag ? parameter + 1 : parameter, isFlag, i + 1 == __argc);
+    }
+}
+
+CCommandLineInfo::CCommandLineInfo()
+    : m_bShowSplash(TRUE), m_bRunEmbedded(FALSE), m_bRunAutomated(FALSE),
+      m_nShellCommand(FileNew) {
+}
+
+void CCommandLineInfo::ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast) {
+    if (bFlag) {
+        ParseFlag(pszParam);
+    } else {
+        ParseName(pszParam);
+    }
+    if (bLast) {
+        if (m_nShellCommand == FileNew && !m_strFileName.IsEmpty()) {
+            m_nShellCommand = FileOpen;
+        }
+        m_bShowSplash = !m_bRunEmbedded && !m_bRunAutomated;
+    }
+}
+
+void CCommandLineInfo::ParseFlag(const TCHAR* flag) {
+    const auto is = [flag](const char* name) { return ::_stricmp(flag, name) == 0; };
+    if (is("pt")) {
+        m_nShellCommand = FilePrintTo;
+    } else if (is("p")) {
+        m_nShellCommand = FilePrint;
+    } else if (is("dde")) {
+        m_nShellCommand = FileDDE;
+    } else if (is("Register") || is("RegServer")) {
+        m_nShellCommand = AppRegister;
+    } else if (is("Unregister") || is("UnregServer")) {
+        m_nShellCommand = AppUnregister;
+    } else if (is("Embedding")) {
+        m_bRunEmbedded = TRUE;
+        m_bShowSplash = FALSE;
+    } else if (is("Automation")) {
+        m_bRunAutomated = TRUE;
+        m_bShowSplash = FALSE;
+    }
+}
+
+void CCommandLineInfo::ParseName(const TCHAR* name) {
+    CString* const places[] = {&m_strFileName, &m_strPrinterName, &m_strDriverName, &m_strPortName};
+    const int count = m_nShellCommand == FilePrintTo ? 4 : 1;
+    for (int i = 0; i < count; ++i) {
+        if (places[i]->IsEmpty()) {
+            *places[i] = name;
+            return;
+        }
+    }
+}

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include <afxwin.h>
+
+#include <memory>
+#include <process.h>
+
+#include "Handles.h"
+#include "ThreadState.h"
+#include "WndAccess.h"
+#include "afxpriv.h"
+
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+
+BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
+END_MESSAGE_MAP()
+
+CWinThread::CWinThread()
+    : m_pMainWnd(nullptr), m_pActiveWnd(nullptr), m_bAutoDelete(TRUE), m_hThread(nullptr),
+      m_nThreadID(0), m_threadProc(nullptr), m_threadParam(nullptr), m_lastMouseMessage(0) {
+}
+
+CWinThread::~CWinThread() {
+    if (m_hThread != nullptr) {
+        ::CloseHandle(m_hThread);
+    }
+    if (afx::CurrentThread().thread == this) {
+        afx::CurrentThread().thread = nullptr;
+    }
+}
+
+CWinThread* AfxGetThread() {
+    return afx::CurrentThread().thread;
+}
+
+// ---- Starting and ending ------------------------------------------------------------------------
+
+BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize,
+                              LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
+    ASSERT(m_hThread == nullptr);
+    // Suspended until its handle and number are stored: the thread may read them.
+    unsigned id = 0;
+    const uintptr_t handle = ::_beginthreadex(lpSecurityAttrs, nStackSize, &CWinThread::ThreadMain,
+                                              this, dwCreateFlags | CREATE_SUSPENDED, &id);
+    if (handle == 0) {
+        return FALSE;
+    }
+    m_hThread = reinterpret_cast<HANDLE>(handle);
+    m_nThreadID = id;
+    if ((dwCreateFlags & CREATE_SUSPENDED) == 0) {
+        ResumeThread();
+    }
+    return TRUE;
+}
+
+unsigned __stdcall CWinThread::ThreadMain(void* thread) {
+    auto* const self = static_cast<CWinThread*>(thread);
+    afx::CurrentThread().thread = self;
+    const int exitCode = self->RunThread();
+    AfxEndThread(static_cast<UINT>(exitCode));
+    return static_cast<unsigned>(exitCode);
+}
+
+int CWinThread::RunThread() {
+    if (m_threadProc != nullptr) {
+        return static_cast<int>(m_threadProc(m_threadParam));
+    }
+    return InitInstance() ? Run() : ExitInstance();
+}
+
+void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete) {
+    CWinThread* const thread = AfxGetThread();
+    if (thread != nullptr) {
+        afx::CurrentThread().thread = nullptr;
+        if (bDelete && thread->m_bAutoDelete && thread != AfxGetApp()) {
+            const std::unique_ptr<CWinThread> ended(thread);
+        }
+    }
+    ::_endthreadex(nExitCode);
+}
+
+namespace {
+
+/// Starts the thread suspended, sets its priority and lets it go if it is to go.
+CWinThread* Start(std::unique_ptr<CWinThread> thread, int priority, UINT stackSize, DWORD flags,
+                  LPSECURITY_ATTRIBUTES security) {
+    if (thread == nullptr || !thread->CreateThread(flags | CREATE_SUSPENDED, stackSize, security)) {
+        return nullptr;
+    }
+    // From here on the thread deletes the object.
+    CWinThread* const started = thread.release();
+    started->SetThreadPriority(priority);
+    if ((flags & CREATE_SUSPENDED) == 0) {
+        started->ResumeThread();
+    }
+    return started;
+}
+
+} // namespace
+
+CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority,
+                           UINT nStackSize, DWORD dwCreateFlags,
+                           LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
+    auto thread = std::make_unique<CWinThread>();
+    thread->m_threadProc = pfnThreadProc;
+    thread->m_threadParam = pParam;
+    thread->m_pMainWnd = AfxGetMainWnd();
+    return Start(std::move(thread), nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
+}
+
+CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UINT nStackSize,
+                           DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
+    std::unique_ptr<CObject> object(pThreadClass->CreateObject());
+    auto* const thread = DYNAMIC_DOWNCAST(CWinThread, object.get());
+    if (thread == nullptr) {
+        return nullptr;
+    }
+    UNUSED_ALWAYS(object.release());
+    return Start(std::unique_ptr<CWinThread>(thread), nPriority, nStackSize, dwCreateFlags,
+                 lpSecurityAttrs);
+}
+
+int CWinThread::GetThreadPriority() {
+    return ::GetThreadPriority(m_hThread);
+}
+
+BOOL CWinThread::SetThreadPriority(int nPriority) {
+    return ::SetThreadPriority(m_hThread, nPriority);
+}
+
+DWORD CWinThread::SuspendThread() {
+    return ::SuspendThread(m_hThread);
+}
+
+DWORD CWinThread::ResumeThread() {
+    return ::ResumeThread(m_hThread);
+}
+
+BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
+}
+
+BOOL CWinThread::InitInstance() {
+    return FALSE;
+}
+
+int CWinThread::ExitInstance() {
+    return static_cast<int>(afx::CurrentThread().pumped.wParam);
+}
+
+// ---- Message loop -------------------------------------------------------------------------------
+
+int CWinThread::Run() {
+    bool idle = true;
+    LONG idleCount = 0;
+    for (;;) {
+        MSG next;
+        while (idle && !::PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE)) {
+            idle = OnIdle(idleCount++) != FALSE;
+        }
+        do {
+            if (!PumpMessage()) {
+                return ExitInstance();
+            }
+            MSG handled = afx::CurrentThread().pumped;
+            if (IsIdleMessage(&handled)) {
+                idle = true;
+                idleCount = 0;
+            }
+        } while (::PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE));
+    }
+}
+
+namespace {
+
+/// Fetches a message, offers it to `preTranslate` and dispatches it. Zero for WM_QUIT.
+template <class PreTranslate>
+BOOL Pump(PreTranslate preTranslate) {
+    MSG msg;
+    const BOOL fetched = ::GetMessage(&msg, nullptr, 0, 0);
+    afx::CurrentThread().pumped = msg;
+    // -1 stands for an error: without messages the loop has to end, too.
+    if (fetched == 0 || fetched == -1) {
+        return FALSE;
+    }
+    if (msg.message != WM_KICKIDLE && !preTranslate(&msg)) {
+        ::TranslateMessage(&msg);
+        ::DispatchMessage(&msg);
+    }
+    return TRUE;
+}
+
+bool IsMouseMove(UINT message) {
+    return message == WM_MOUSEMOVE || message == WM_NCMOUSEMOVE;
+}
+
+bool IsNeverIdleMessage(UINT message) {
+    constexpr UINT caretBlink = 0x0118;
+    return message == WM_PAINT || message == caretBlink;
+}
+
+} // namespace
+
+BOOL CWinThread::PumpMessage() {
+    return Pump([this](MSG* msg) { return PreTranslateMessage(msg); });
+}
+
+BOOL afx::PumpMessage() {
+    CWinThread* const thread = AfxGetThread();
+    return thread != nullptr
+               ? thread->PumpMessage()
+               : Pump([](MSG* msg) { return WalkPreTranslateTree(nullptr, msg); });
+}
+
+BOOL CWinThread::IsIdleMessage(MSG* pMsg) {
+    if (!IsMouseMove(pMsg->message)) {
+        return !IsNeverIdleMessage(pMsg->message);
+    }
+    // Windows also sends mouse moves when something else than the mouse has moved.
+    if (m_lastMousePos == pMsg->pt && m_lastMouseMessage == pMsg->message) {
+        return FALSE;
+    }
+    m_lastMousePos = pMsg->pt;
+    m_lastMouseMessage = pMsg->message;
+    return TRUE;
+}
+
+bool afx::IsIdleMessage(MSG* msg) {
+    CWinThread* const thread = AfxGetThread();
+    return thread != nullptr ? thread->IsIdleMessage(msg) != FALSE
+                             : !IsNeverIdleMessage(msg->message);
+}
+
+BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
+    if (pMsg->hwnd == nullptr && DispatchThreadMessage(pMsg)) {
+        return TRUE;
+    }
+    CWnd* const main = AfxGetMainWnd();
+    const HWND mainHandle = afx::WindowOf(main);
+    if (afx::WalkPreTranslateTree(mainHandle, pMsg)) {
+        return TRUE;
+    }
+    // A window beside the main window leaves the main window's accelerators to it.
+    if (mainHandle == nullptr || pMsg->hwnd == nullptr) {
+        return FALSE;
+    }
+    const CWnd* const top = CWnd::FromHandle(pMsg->hwnd)->GetTopLevelParent();
+    return top != main && main->PreTranslateMessage(pMsg);
+}
+
+BOOL CWinThread::DispatchThreadMessage(MSG* msg) {
+    const AFX_MSGMAP_ENTRY* const entry = afx::FindEntry(GetMessageMap(), msg->message, 0, 0);
+    if (entry == nullptr) {
+        return FALSE;
+    }
+    LRESULT unused = 0;
+    afx::MapCall call;
+    call.message = msg->message;
+    call.wParam = msg->wParam;
+    call.lParam = msg->lParam;
+    call.result = &unused;
+    return entry->pfn(this, call);
+}
+
+BOOL CWinThread::ProcessMessageFilter(int, LPMSG) {
+    return FALSE;
+}
+
+CWnd* CWinThread::GetMainWnd() {
+    return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd;
+}
+
+// ---- Idle ---------------------------------------------------------------------------------------
+
+namespace {
+
+void DeleteTemporaryObjects() {
+    CWnd::DeleteTempMap();
+    CMenu::DeleteTempMap();
+    CDC::DeleteTempMap();
+    CGdiObject::DeleteTempMap();
+}
+
+void UpdateCommandItems(CWnd* wnd) {
+    if (wnd == nullptr || wnd->m_hWnd == nullptr || !wnd->IsWindowVisible()) {
+        return;
+    }
+    // The message goes to the object: it is one for bars and frames of this framework only.
+    ::SendMessage(wnd->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
+    wnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+}
+
+} // namespace
+
+BOOL CWinThread::OnIdle(LONG lCount) {
+    if (lCount <= 0) {
+        UpdateCommandItems(m_pMainWnd);
+        return TRUE;
+    }
+    // The second time nothing is left that a handler could still hold on to.
+    DeleteTemporaryObjects();
+    return FALSE;
+}

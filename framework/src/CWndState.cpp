@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+// CWnd: state, style, text, font, size and position.
+#include <afxwin.h>
+
+#include <algorithm>
+
+#include "Handles.h"
+
+// ---- State and style ----------------------------------------------------------------------------
+
+DWORD CWnd::GetStyle() const {
+    return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_STYLE));
+}
+
+DWORD CWnd::GetExStyle() const {
+    return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_EXSTYLE));
+}
+
+namespace {
+
+BOOL ChangeStyle(HWND hWnd, int which, DWORD remove, DWORD add, UINT flags) {
+    const auto before = static_cast<DWORD>(::GetWindowLongPtr(hWnd, which));
+    const DWORD after = (before & ~remove) | add;
+    if (after == before) {
+        return FALSE;
+    }
+    ::SetWindowLongPtr(hWnd, which, static_cast<LONG_PTR>(after));
+    if (flags != 0) {
+        ::SetWindowPos(hWnd, nullptr, 0, 0, 0, 0,
+                       flags | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return TRUE;
+}
+
+} // namespace
+
+BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return ChangeStyle(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
+    return ChangeStyle(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL CWnd::EnableWindow(BOOL bEnable) {
+    return ::EnableWindow(m_hWnd, bEnable);
+}
+
+BOOL CWnd::IsWindowEnabled() const {
+    return ::IsWindowEnabled(m_hWnd);
+}
+
+BOOL CWnd::IsWindowVisible() const {
+    return ::IsWindowVisible(m_hWnd);
+}
+
+BOOL CWnd::IsIconic() const {
+    return ::IsIconic(m_hWnd);
+}
+
+BOOL CWnd::IsZoomed() const {
+    return ::IsZoomed(m_hWnd);
+}
+
+BOOL CWnd::ShowWindow(int nCmdShow) {
+    return ::ShowWindow(m_hWnd, nCmdShow);
+}
+
+void CWnd::ShowOwnedPopups(BOOL bShow) {
+    ::ShowOwnedPopups(m_hWnd, bShow);
+}
+
+void CWnd::CloseWindow() {
+    ::CloseWindow(m_hWnd);
+}
+
+BOOL CWnd::GetWindowInfo(PWINDOWINFO pwi) const {
+    return ::GetWindowInfo(m_hWnd, pwi);
+}
+
+BOOL CWnd::GetTitleBarInfo(PTITLEBARINFO pti) const {
+    return ::GetTitleBarInfo(m_hWnd, pti);
+}
+
+BOOL CWnd::SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
+    return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
+}
+
+BOOL CWnd::GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const {
+    return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
+}
+
+BOOL CWnd::AnimateWindow(DWORD dwTime, DWORD dwFlags) {
+    return ::AnimateWindow(m_hWnd, dwTime, dwFlags);
+}
+
+BOOL CWnd::FlashWindow(BOOL bInvert) {
+    return ::FlashWindow(m_hWnd, bInvert);
+}
+
+BOOL CWnd::FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout) {
+    FLASHWINFO info = {sizeof(info), m_hWnd, dwFlags, uCount, dwTimeout};
+    return ::FlashWindowEx(&info);
+}
+
+DWORD CWnd::GetWindowContextHelpId() const {
+    return ::GetWindowContextHelpId(m_hWnd);
+}
+
+BOOL CWnd::SetWindowContextHelpId(DWORD dwContextHelpId) {
+    return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
+}
+
+void CWnd::DragAcceptFiles(BOOL bAccept) {
+    ::DragAcceptFiles(m_hWnd, bAccept);
+}
+
+// ---- Text, font, icon, identifier ---------------------------------------------------------------
+
+void CWnd::SetWindowText(LPCTSTR lpszString) {
+    ::SetWindowText(m_hWnd, lpszString);
+}
+
+int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
+    return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
+}
+
+void CWnd::GetWindowText(CString& rString) const {
+    const int length = ::GetWindowTextLength(m_hWnd);
+    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(length), length + 1);
+    rString.ReleaseBuffer();
+}
+
+int CWnd::GetWindowTextLength() const {
+    return ::GetWindowTextLength(m_hWnd);
+}
+
+void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
+    ::SendMessage(m_hWnd, WM_SETFONT,
+                  reinterpret_cast<WPARAM>(pFont == nullptr ? nullptr : pFont->m_hObject),
+                  MAKELPARAM(bRedraw, 0));
+}
+
+CFont* CWnd::GetFont() const {
+    return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0)));
+}
+
+HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon) {
+    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, WM_SETICON,
+                                                 bBigIcon ? ICON_BIG : ICON_SMALL,
+                                                 reinterpret_cast<LPARAM>(hIcon)));
+}
+
+HICON CWnd::GetIcon(BOOL bBigIcon) const {
+    return reinterpret_cast<HICON>(
+        ::SendMessage(m_hWnd, WM_GETICON, bBigIcon ? ICON_BIG : ICON_SMALL, 0));
+}
+
+int CWnd::GetDlgCtrlID() const {
+    return ::GetDlgCtrlID(m_hWnd);
+}
+
+int CWnd::SetDlgCtrlID(int nID) {
+    return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, nID));
+}
+
+// ---- Size and position --------------------------------------------------------------------------
+
+void CWnd::GetWindowRect(LPRECT lpRect) const {
+    ::GetWindowRect(m_hWnd, lpRect);
+}
+
+void CWnd::GetClientRect(LPRECT lpRect) const {
+    ::GetClientRect(m_hWnd, lpRect);
+}
+
+void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint) {
+    ::MoveWindow(m_hWnd, x, y, nWidth, nHeight, bRepaint);
+}
+
+void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint) {
+    MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left,
+               lpRect->bottom - lpRect->top, bRepaint);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
+    return ::SetWindowPos(m_hWnd, afx::WindowOf(pWndInsertAfter), x, y, cx, cy, nFlags);
+}
+
+BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const {
+    lpwndpl->length = sizeof(WINDOWPLACEMENT);
+    return ::GetWindowPlacement(m_hWnd, lpwndpl);
+}
+
+BOOL CWnd::SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl) {
+    WINDOWPLACEMENT placement = *lpwndpl;
+    placement.length = sizeof(placement);
+    return ::SetWindowPlacement(m_hWnd, &placement);
+}
+
+int CWnd::SetWindowRgn(HRGN hRgn, BOOL bRedraw) {
+    return ::SetWindowRgn(m_hWnd, hRgn, bRedraw);
+}
+
+int CWnd::GetWindowRgn(HRGN hRgn) const {
+    return ::GetWindowRgn(m_hWnd, hRgn);
+}
+
+void CWnd::BringWindowToTop() {
+    ::BringWindowToTop(m_hWnd);
+}
+
+UINT CWnd::ArrangeIconicWindows() {
+    return ::ArrangeIconicWindows(m_hWnd);
+}
+
+namespace {
+
+/// The window to centre on; null for the screen.
+HWND CenterReference(HWND hWnd, const CWnd* alternate, bool isChild) {
+    if (alternate != nullptr) {
+        return afx::WindowOf(alternate);
+    }
+    const HWND reference = isChild ? ::GetParent(hWnd) : ::GetWindow(hWnd, GW_OWNER);
+    if (isChild || reference == nullptr) {
+        return reference;
+    }
+    const bool shown = ::IsWindowVisible(reference) && !::IsIconic(reference);
+    return shown ? reference : nullptr;
+}
+
+CRect WorkArea(HWND nearest) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetMonitorInfo(::MonitorFromWindow(nearest, MONITOR_DEFAULTTOPRIMARY), &info);
+    return info.rcWork;
+}
+
+/// The start of a span of that length, centred between first and last and kept inside the area.
+LONG CenteredStart(LONG first, LONG last, LONG length, LONG areaFirst, LONG areaLast) {
+    const LONG start = first + (last - first - length) / 2;
+    return std::max(areaFirst, std::min(start, areaLast - length));
+}
+
+} // namespace
+
+void CWnd::CenterWindow(CWnd* pAlternateOwner) {
+    const bool isChild = (GetStyle() & WS_CHILD) != 0;
+    const HWND reference = CenterReference(m_hWnd, pAlternateOwner, isChild);
+    CRect area;
+    CRect target;
+    if (isChild) {
+        const HWND parent = ::GetParent(m_hWnd);
+        ::GetClientRect(parent, &area);
+        ::GetClientRect(reference, &target);
+        ::MapWindowPoints(reference, parent, reinterpret_cast<LPPOINT>(&target), 2);
+    } else {
+        area = WorkArea(reference != nullptr ? reference : m_hWnd);
+        target = area;
+        if (reference != nullptr && reference != ::GetDesktopWindow()) {
+            ::GetWindowRect(reference, &target);
+        }
+    }
+    CRect own;
+    GetWindowRect(&own);
+    SetWindowPos(nullptr,
+                 CenteredStart(target.left, target.right, own.Width(), area.left, area.right),
+                 CenteredStart(target.top, target.bottom, own.Height(), area.top, area.bottom), -1,
+                 -1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {
+    DWORD exStyle = GetExStyle();
+    if (nAdjustType == adjustBorder) {
+        exStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE);
+    }
+    ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, exStyle);
+}
+
+void CWnd::ClientToScreen(LPPOINT lpPoint) const {
+    ::ClientToScreen(m_hWnd, lpPoint);
+}
+
+void CWnd::ClientToScreen(LPRECT lpRect) const {
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(lpRect), 2);
+}
+
+void CWnd::ScreenToClient(LPPOINT lpPoint) const {
+    ::ScreenToClient(m_hWnd, lpPoint);
+}
+
+void CWnd::ScreenToClient(LPRECT lpRect) const {
+    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
+}
+
+void CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const {
+    ::MapWindowPoints(m_hWnd, afx::WindowOf(pwndTo), reinterpret_cast<LPPOINT>(lpRect), 2);
+}
+
+void CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const {
+    ::MapWindowPoints(m_hWnd, afx::WindowOf(pwndTo), lpPoint, nCount);
+}

@@ -1,0 +1,416 @@
+// SPDX-License-Identifier: MIT
+#include "atltypes.h"
+
+namespace {
+
+// Coordinates come from messages and resources: sums wrap instead of being undefined.
+LONG add(LONG a, LONG b) {
+    return static_cast<LONG>(static_cast<ULONG>(a) + static_cast<ULONG>(b));
+}
+
+LONG subtract(LONG a, LONG b) {
+    return static_cast<LONG>(static_cast<ULONG>(a) - static_cast<ULONG>(b));
+}
+
+LONG middle(LONG a, LONG b) {
+    return static_cast<LONG>((LONGLONG{a} + LONGLONG{b}) / 2);
+}
+
+} // namespace
+
+// A CRect hands out its corners as CPoint objects.
+static_assert(sizeof(CPoint) == sizeof(POINT) && sizeof(CRect) == sizeof(RECT));
+
+CSize::CSize() noexcept : tagSIZE{0, 0} {}
+CSize::CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
+CSize::CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
+CSize::CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
+CSize::CSize(DWORD dwSize) noexcept
+    : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
+
+BOOL CSize::operator==(SIZE size) const noexcept {
+    return cx == size.cx && cy == size.cy;
+}
+
+BOOL CSize::operator!=(SIZE size) const noexcept {
+    return !(*this == size);
+}
+
+void CSize::operator+=(SIZE size) noexcept {
+    cx = add(cx, size.cx);
+    cy = add(cy, size.cy);
+}
+
+void CSize::operator-=(SIZE size) noexcept {
+    cx = subtract(cx, size.cx);
+    cy = subtract(cy, size.cy);
+}
+
+CSize CSize::operator+(SIZE size) const noexcept {
+    return CSize(add(cx, size.cx), add(cy, size.cy));
+}
+
+CSize CSize::operator-(SIZE size) const noexcept {
+    return CSize(subtract(cx, size.cx), subtract(cy, size.cy));
+}
+
+CSize CSize::operator-() const noexcept {
+    return CSize(subtract(0, cx), subtract(0, cy));
+}
+
+CPoint CSize::operator+(POINT point) const noexcept {
+    return CPoint(point) + *this;
+}
+
+CPoint CSize::operator-(POINT point) const noexcept {
+    return CPoint(point) - *this;
+}
+
+CRect CSize::operator+(const RECT* lpRect) const noexcept {
+    return CRect(lpRect) + *this;
+}
+
+CRect CSize::operator-(const RECT* lpRect) const noexcept {
+    return CRect(lpRect) - *this;
+}
+
+CPoint::CPoint() noexcept : tagPOINT{0, 0} {}
+CPoint::CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
+CPoint::CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
+CPoint::CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
+CPoint::CPoint(LPARAM dwPoint) noexcept
+    : tagPOINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))} {}
+
+void CPoint::Offset(int xOffset, int yOffset) noexcept {
+    x = add(x, xOffset);
+    y = add(y, yOffset);
+}
+
+void CPoint::Offset(POINT point) noexcept {
+    Offset(point.x, point.y);
+}
+
+void CPoint::Offset(SIZE size) noexcept {
+    Offset(size.cx, size.cy);
+}
+
+BOOL CPoint::operator==(POINT point) const noexcept {
+    return x == point.x && y == point.y;
+}
+
+BOOL CPoint::operator!=(POINT point) const noexcept {
+    return !(*this == point);
+}
+
+void CPoint::operator+=(SIZE size) noexcept {
+    Offset(size);
+}
+
+void CPoint::operator-=(SIZE size) noexcept {
+    Offset(-CSize(size));
+}
+
+void CPoint::operator+=(POINT point) noexcept {
+    Offset(point);
+}
+
+void CPoint::operator-=(POINT point) noexcept {
+    Offset(-CPoint(point));
+}
+
+CPoint CPoint::operator+(SIZE size) const noexcept {
+    return CPoint(add(x, size.cx), add(y, size.cy));
+}
+
+CPoint CPoint::operator-(SIZE size) const noexcept {
+    return CPoint(subtract(x, size.cx), subtract(y, size.cy));
+}
+
+CPoint CPoint::operator-() const noexcept {
+    return CPoint(subtract(0, x), subtract(0, y));
+}
+
+CPoint CPoint::operator+(POINT point) const noexcept {
+    return CPoint(add(x, point.x), add(y, point.y));
+}
+
+CSize CPoint::operator-(POINT point) const noexcept {
+    return CSize(subtract(x, point.x), subtract(y, point.y));
+}
+
+CRect CPoint::operator+(const RECT* lpRect) const noexcept {
+    return CRect(lpRect) + *this;
+}
+
+CRect CPoint::operator-(const RECT* lpRect) const noexcept {
+    return CRect(lpRect) - *this;
+}
+
+CRect::CRect() noexcept : tagRECT{0, 0, 0, 0} {}
+CRect::CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
+CRect::CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
+CRect::CRect(LPCRECT lpSrcRect) noexcept : tagRECT(*lpSrcRect) {}
+CRect::CRect(POINT point, SIZE size) noexcept
+    : tagRECT{point.x, point.y, add(point.x, size.cx), add(point.y, size.cy)} {}
+CRect::CRect(POINT topLeft, POINT bottomRight) noexcept
+    : tagRECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y} {}
+
+int CRect::Width() const noexcept {
+    return subtract(right, left);
+}
+
+int CRect::Height() const noexcept {
+    return subtract(bottom, top);
+}
+
+CSize CRect::Size() const noexcept {
+    return CSize(Width(), Height());
+}
+
+CPoint& CRect::TopLeft() noexcept {
+    return *reinterpret_cast<CPoint*>(&left);
+}
+
+CPoint& CRect::BottomRight() noexcept {
+    return *reinterpret_cast<CPoint*>(&right);
+}
+
+const CPoint& CRect::TopLeft() const noexcept {
+    return *reinterpret_cast<const CPoint*>(&left);
+}
+
+const CPoint& CRect::BottomRight() const noexcept {
+    return *reinterpret_cast<const CPoint*>(&right);
+}
+
+CPoint CRect::CenterPoint() const noexcept {
+    return CPoint(middle(left, right), middle(top, bottom));
+}
+
+CRect::operator LPRECT() noexcept {
+    return this;
+}
+
+CRect::operator LPCRECT() const noexcept {
+    return this;
+}
+
+BOOL CRect::IsRectEmpty() const noexcept {
+    return ::IsRectEmpty(this);
+}
+
+BOOL CRect::IsRectNull() const noexcept {
+    return left == 0 && top == 0 && right == 0 && bottom == 0;
+}
+
+BOOL CRect::PtInRect(POINT point) const noexcept {
+    return ::PtInRect(this, point);
+}
+
+BOOL CRect::EqualRect(LPCRECT lpRect) const noexcept {
+    return ::EqualRect(this, lpRect);
+}
+
+void CRect::SetRect(int x1, int y1, int x2, int y2) noexcept {
+    *this = CRect(x1, y1, x2, y2);
+}
+
+void CRect::SetRectEmpty() noexcept {
+    *this = CRect();
+}
+
+void CRect::CopyRect(LPCRECT lpSrcRect) noexcept {
+    *this = *lpSrcRect;
+}
+
+void CRect::InflateRect(int x, int y) noexcept {
+    InflateRect(x, y, x, y);
+}
+
+void CRect::InflateRect(SIZE size) noexcept {
+    InflateRect(size.cx, size.cy);
+}
+
+void CRect::InflateRect(LPCRECT lpRect) noexcept {
+    InflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+}
+
+void CRect::InflateRect(int l, int t, int r, int b) noexcept {
+    left = subtract(left, l);
+    top = subtract(top, t);
+    right = add(right, r);
+    bottom = add(bottom, b);
+}
+
+void CRect::DeflateRect(int x, int y) noexcept {
+    DeflateRect(x, y, x, y);
+}
+
+void CRect::DeflateRect(SIZE size) noexcept {
+    DeflateRect(size.cx, size.cy);
+}
+
+void CRect::DeflateRect(LPCRECT lpRect) noexcept {
+    DeflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+}
+
+void CRect::DeflateRect(int l, int t, int r, int b) noexcept {
+    left = add(left, l);
+    top = add(top, t);
+    right = subtract(right, r);
+    bottom = subtract(bottom, b);
+}
+
+void CRect::OffsetRect(int x, int y) noexcept {
+    left = add(left, x);
+    top = add(top, y);
+    right = add(right, x);
+    bottom = add(bottom, y);
+}
+
+void CRect::OffsetRect(SIZE size) noexcept {
+    OffsetRect(size.cx, size.cy);
+}
+
+void CRect::OffsetRect(POINT point) noexcept {
+    OffsetRect(point.x, point.y);
+}
+
+void CRect::MoveToX(int x) noexcept {
+    right = add(x, Width());
+    left = x;
+}
+
+void CRect::MoveToY(int y) noexcept {
+    bottom = add(y, Height());
+    top = y;
+}
+
+void CRect::MoveToXY(int x, int y) noexcept {
+    MoveToX(x);
+    MoveToY(y);
+}
+
+void CRect::MoveToXY(POINT point) noexcept {
+    MoveToXY(point.x, point.y);
+}
+
+void CRect::NormalizeRect() noexcept {
+    if (left > right) {
+        const LONG former = left;
+        left = right;
+        right = former;
+    }
+    if (top > bottom) {
+        const LONG former = top;
+        top = bottom;
+        bottom = former;
+    }
+}
+
+BOOL CRect::IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept {
+    return ::IntersectRect(this, lpRect1, lpRect2);
+}
+
+BOOL CRect::UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept {
+    return ::UnionRect(this, lpRect1, lpRect2);
+}
+
+BOOL CRect::SubtractRect(LPCRECT lpRectSrc1, LPCRECT lpRectSrc2) noexcept {
+    return ::SubtractRect(this, lpRectSrc1, lpRectSrc2);
+}
+
+void CRect::operator=(const RECT& srcRect) noexcept {
+    left = srcRect.left;
+    top = srcRect.top;
+    right = srcRect.right;
+    bottom = srcRect.bottom;
+}
+
+BOOL CRect::operator==(const RECT& rect) const noexcept {
+    return ::EqualRect(this, &rect);
+}
+
+BOOL CRect::operator!=(const RECT& rect) const noexcept {
+    return !(*this == rect);
+}
+
+void CRect::operator+=(POINT point) noexcept {
+    OffsetRect(point);
+}
+
+void CRect::operator+=(SIZE size) noexcept {
+    OffsetRect(size);
+}
+
+void CRect::operator+=(LPCRECT lpRect) noexcept {
+    InflateRect(lpRect);
+}
+
+void CRect::operator-=(POINT point) noexcept {
+    OffsetRect(-CPoint(point));
+}
+
+void CRect::operator-=(SIZE size) noexcept {
+    OffsetRect(-CSize(size));
+}
+
+void CRect::operator-=(LPCRECT lpRect) noexcept {
+    DeflateRect(lpRect);
+}
+
+void CRect::operator&=(const RECT& rect) noexcept {
+    ::IntersectRect(this, this, &rect);
+}
+
+void CRect::operator|=(const RECT& rect) noexcept {
+    ::UnionRect(this, this, &rect);
+}
+
+CRect CRect::operator+(POINT point) const noexcept {
+    CRect result(*this);
+    result += point;
+    return result;
+}
+
+CRect CRect::operator-(POINT point) const noexcept {
+    CRect result(*this);
+    result -= point;
+    return result;
+}
+
+CRect CRect::operator+(LPCRECT lpRect) const noexcept {
+    CRect result(*this);
+    result += lpRect;
+    return result;
+}
+
+CRect CRect::operator+(SIZE size) const noexcept {
+    CRect result(*this);
+    result += size;
+    return result;
+}
+
+CRect CRect::operator-(SIZE size) const noexcept {
+    CRect result(*this);
+    result -= size;
+    return result;
+}
+
+CRect CRect::operator-(LPCRECT lpRect) const noexcept {
+    CRect result(*this);
+    result -= lpRect;
+    return result;
+}
+
+CRect CRect::operator&(const RECT& rect2) const noexcept {
+    CRect result(*this);
+    result &= rect2;
+    return result;
+}
+
+CRect CRect::operator|(const RECT& rect2) const noexcept {
+    CRect result(*this);
+    result |= rect2;
+    return result;
+}
