@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "draw/BufferDC.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <stdexcept>
+
+#include "draw/Selectors.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/GdiLedger.h"
+
+namespace {
+
+constexpr COLORREF kInk = RGB(12, 34, 56);
+
+void FillAll(CDC& dc) {
+    dc.FillSolidRect(0, 0, 1000, 1000, kInk);
+}
+
+RECT ClipBoxOf(HDC dc) {
+    RECT box = {};
+    ::GetClipBox(dc, &box);
+    return box;
+}
+
+SIZE BitmapSizeOf(HDC dc) {
+    BITMAP bitmap = {};
+    ::GetObjectA(::GetCurrentObject(dc, OBJ_BITMAP), sizeof bitmap, &bitmap);
+    return {bitmap.bmWidth, bitmap.bmHeight};
+}
+
+struct AreaCase {
+    const char* name;
+    RECT asked;
+    RECT clip; ///< the target's clip region
+    RECT copied;
+    SIZE bitmap;
+};
+
+class BufferArea : public testing::TestWithParam<AreaCase> {};
+
+TEST_P(BufferArea, IsTheOnlyThingCopied) {
+    const AreaCase& c = GetParam();
+    Canvas canvas(200, 100);
+    ::IntersectClipRect(canvas.dc(), c.clip.left, c.clip.top, c.clip.right, c.clip.bottom);
+    const automation::Picture before = canvas.Snapshot();
+    {
+        CBufferDC dc(canvas.dc(), &c.asked);
+        EXPECT_EQ(BitmapSizeOf(dc).cx, c.bitmap.cx);
+        EXPECT_EQ(BitmapSizeOf(dc).cy, c.bitmap.cy);
+        const RECT clip = ClipBoxOf(dc);
+        EXPECT_TRUE(::EqualRect(&clip, &c.copied)) << "the rest is excluded from clipping";
+        FillAll(dc);
+        EXPECT_TRUE(canvas.Snapshot() == before) << "nothing shows before the buffer closes";
+    }
+    const int area = (c.copied.right - c.copied.left) * (c.copied.bottom - c.copied.top);
+    EXPECT_EQ(canvas.Count(kInk, c.copied), area);
+    EXPECT_EQ(canvas.Count(Canvas::kUntouched, {0, 0, 200, 100}), 200 * 100 - area);
+}
+
+constexpr RECT kAll = {0, 0, 200, 100};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rectangles, BufferArea,
+    testing::Values(
+        AreaCase{"AwayFromTheOrigin", {50, 20, 150, 60}, kAll, {50, 20, 150, 60}, {150, 60}},
+        AreaCase{"AtTheOrigin", {0, 0, 40, 30}, kAll, {0, 0, 40, 30}, {40, 30}},
+        AreaCase{"AtTheTop", {50, 0, 60, 30}, kAll, {50, 0, 60, 30}, {60, 30}},
+        AreaCase{"AtTheLeft", {0, 20, 60, 30}, kAll, {0, 20, 60, 30}, {60, 30}},
+        AreaCase{"OnePixel", {7, 9, 8, 10}, kAll, {7, 9, 8, 10}, {8, 10}},
+        AreaCase{"EmptyMeansTheClipBox", {0, 0, 0, 0}, {10, 5, 90, 50}, {10, 5, 90, 50}, {90, 50}},
+        AreaCase{"InvertedIsEmptyToo", {9, 9, 3, 3}, kAll, kAll, {200, 100}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(BufferDC, NullRectangleMeansTheClipBox) {
+    Canvas canvas(20, 10);
+    {
+        CBufferDC dc(canvas.dc(), nullptr);
+        FillAll(dc);
+    }
+    EXPECT_EQ(canvas.Count(kInk, {0, 0, 20, 10}), 200);
+}
+
+TEST(BufferDC, TextGoesThroughTheVirtualCallsIntoTheBuffer) {
+    Canvas canvas(100, 20, RGB(255, 255, 255));
+    const automation::Picture before = canvas.Snapshot();
+    {
+        CBufferDC buffer(canvas.dc(), nullptr);
+        buffer.PatBlt(0, 0, 100, 20, WHITENESS);
+        CDC& dc = buffer;
+        CRect rect(0, 0, 100, 20);
+        EXPECT_GT(dc.DrawText("text", rect, DT_SINGLELINE), 0);
+        EXPECT_TRUE(dc.TextOut(50, 0, "text", 4));
+        EXPECT_TRUE(canvas.Snapshot() == before);
+    }
+    EXPECT_GT(canvas.Count(RGB(0, 0, 0), {0, 0, 50, 20}), 0) << "DrawText";
+    EXPECT_GT(canvas.Count(RGB(0, 0, 0), {50, 0, 100, 20}), 0) << "TextOut";
+}
+
+BOOL CALLBACK DrawGrayed(HDC dc, LPARAM text, int count) {
+    return ::TextOutA(dc, 0, 0, reinterpret_cast<LPCSTR>(text), count);
+}
+
+// Each overridden operation gives the result, and the pixels, of the system call of the same name.
+TEST(BufferDC, OverridesAnswerAsTheSystemCalls) {
+    constexpr RECT rect = {10, 5, 90, 25};
+    int tab = 30;
+    int widths[] = {9, 8, 7};
+    DRAWTEXTPARAMS parameters = {sizeof parameters, 4, 3, 2, 0};
+    char text[] = "a\tb";
+    CBrush gray(RGB(100, 100, 100));
+
+    Canvas expected(100, 30);
+    Canvas actual(100, 30);
+    {
+        const HDC ref = expected.dc();
+        CBufferDC buffer(actual.dc(), nullptr);
+        buffer.FillSolidRect(0, 0, 100, 30, Canvas::kUntouched);
+        buffer.SetBkColor(::GetBkColor(ref));
+        CDC& dc = buffer;
+
+        EXPECT_EQ(dc.PtVisible(99, 29), ::PtVisible(ref, 99, 29));
+        EXPECT_EQ(dc.PtVisible(100, 29), ::PtVisible(ref, 100, 29));
+        EXPECT_EQ(dc.RectVisible(&rect), ::RectVisible(ref, &rect));
+        EXPECT_EQ(dc.TextOut(0, 0, text, 3), ::TextOutA(ref, 0, 0, text, 3));
+        EXPECT_EQ(dc.ExtTextOut(5, 5, ETO_CLIPPED, &rect, "abc", 3, widths),
+                  ::ExtTextOutA(ref, 5, 5, ETO_CLIPPED, &rect, "abc", 3, widths));
+        const DWORD size = ::TabbedTextOutA(ref, 2, 12, text, 3, 1, &tab, 1);
+        EXPECT_EQ(dc.TabbedTextOut(2, 12, text, 3, 1, &tab, 1),
+                  CSize(static_cast<short>(LOWORD(size)), static_cast<short>(HIWORD(size))));
+        RECT ours = rect;
+        RECT theirs = rect;
+        EXPECT_EQ(dc.DrawText(text, 3, &ours, DT_RIGHT | DT_SINGLELINE),
+                  ::DrawTextA(ref, text, 3, &theirs, DT_RIGHT | DT_SINGLELINE));
+        EXPECT_EQ(dc.DrawTextEx(text, 3, &ours, DT_EXPANDTABS, &parameters),
+                  ::DrawTextExA(ref, text, 3, &theirs, DT_EXPANDTABS, &parameters));
+        const auto data = reinterpret_cast<LPARAM>("gray");
+        EXPECT_EQ(dc.GrayString(&gray, DrawGrayed, data, 4, 60, 2, 30, 16),
+                  ::GrayStringA(ref, gray, DrawGrayed, data, 4, 60, 2, 30, 16));
+        EXPECT_EQ(dc.GrayString(nullptr, DrawGrayed, data, 4, 60, 15, 30, 16),
+                  ::GrayStringA(ref, nullptr, DrawGrayed, data, 4, 60, 15, 30, 16));
+        const int query = SETABORTPROC;
+        const auto input = reinterpret_cast<LPCSTR>(&query);
+        EXPECT_EQ(dc.Escape(QUERYESCSUPPORT, sizeof query, input, nullptr),
+                  ::Escape(ref, QUERYESCSUPPORT, sizeof query, input, nullptr));
+    }
+    EXPECT_TRUE(actual.Snapshot() == expected.Snapshot());
+}
+
+TEST(BufferDC, ReleasesEverythingAlsoWhenAnExceptionUnwinds) {
+    Canvas canvas(50, 50);
+    GdiLedger ledger;
+    const RECT rect = {5, 5, 20, 20};
+    { const CBufferDC dc(canvas.dc(), &rect); }
+    try {
+        CBufferDC dc(canvas.dc(), &rect);
+        CPenSelector pen(dc, kInk);
+        CBrushSelector brush(dc, kInk);
+        dc.Rectangle(&rect);
+        throw std::runtime_error("in the middle of a paint");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_EQ(ledger.Unreturned(), "");
+    EXPECT_EQ(ledger.Faults(), "");
+    EXPECT_EQ(canvas.Count(kInk, rect), 15 * 15) << "what was drawn until then is shown";
+}
+
+TEST(BufferDC, WithoutATargetNothingHappens) {
+    GdiLedger ledger;
+    const RECT rects[] = {{0, 0, 0, 0}, {5, 5, 20, 20}, {0, 0, INT_MAX, INT_MAX}};
+    for (const HDC target : {static_cast<HDC>(nullptr), reinterpret_cast<HDC>(0x12345)})
+        for (const RECT& rect : rects) {
+            CBufferDC dc(target, &rect);
+            CPenSelector pen(dc, kInk);
+            FillAll(dc);
+            dc.TextOut(1, 1, "text", 4);
+        }
+    EXPECT_EQ(ledger.Unreturned(), "");
+    EXPECT_EQ(ledger.Faults(), "");
+}
+
+TEST(BufferDC, EmptyClipBoxPaintsNothing) {
+    Canvas canvas(10, 10);
+    ::IntersectClipRect(canvas.dc(), 0, 0, 0, 0);
+    {
+        CBufferDC dc(canvas.dc(), nullptr);
+        FillAll(dc);
+    }
+    EXPECT_EQ(canvas.Count(Canvas::kUntouched, {0, 0, 10, 10}), 100);
+}
+
+// No bitmap of that size can be had; the paint then goes straight to the target.
+TEST(BufferDC, DrawsOnTheTargetWhereNoBufferCanBeHad) {
+    Canvas canvas(20, 20);
+    ::SetTextColor(canvas.dc(), RGB(1, 2, 3));
+    GdiLedger ledger;
+    const RECT absurd = {10, 0, INT_MAX, INT_MAX};
+    {
+        CBufferDC dc(canvas.dc(), &absurd);
+        dc.SetTextColor(RGB(4, 5, 6));
+        dc.SetBkMode(TRANSPARENT);
+        FillAll(dc);
+    }
+    EXPECT_EQ(canvas.Count(kInk, {10, 0, 20, 20}), 200);
+    EXPECT_EQ(canvas.Count(Canvas::kUntouched, {0, 0, 10, 20}), 200);
+    EXPECT_EQ(::GetTextColor(canvas.dc()), RGB(1, 2, 3));
+    EXPECT_EQ(::GetBkMode(canvas.dc()), OPAQUE);
+    const RECT clip = ClipBoxOf(canvas.dc());
+    EXPECT_EQ(clip.right - clip.left, 20);
+    EXPECT_EQ(ledger.Unreturned(), "");
+}
+
+} // namespace
