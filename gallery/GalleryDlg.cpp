@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/GalleryDlg.h"
+
+#include "gallery/ButtonsPage.h"
+#include "gallery/resource.h"
+
+BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
+    ON_LBN_SELCHANGE(IDC_SCENES, &CGalleryDlg::OnSceneChosen)
+END_MESSAGE_MAP()
+
+CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
+    m_pages.push_back(std::make_unique<CButtonsPage>());
+}
+
+void CGalleryDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_SCENES, m_scenes);
+    DDX_Control(exchange, IDC_TITLE, m_title);
+    DDX_Control(exchange, IDCANCEL, m_close);
+}
+
+BOOL CGalleryDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+
+    const HICON icon = AfxGetApp()->LoadIcon(IDR_GALLERY);
+    SetIcon(icon, TRUE);
+    SetIcon(icon, FALSE);
+
+    LOGFONT font;
+    GetFont()->GetLogFont(&font);
+    font.lfWeight = FW_BOLD;
+    m_titleFont.CreateFontIndirect(&font);
+    m_title.SetFont(&m_titleFont);
+
+    for (const auto& page : m_pages) {
+        m_scenes.AddString(page->GetTitle());
+        page->CreateOver(*GetDlgItem(IDC_PAGE), *this);
+    }
+    m_scenes.SetCurSel(0);
+    ShowPage(*m_pages.front());
+    return TRUE;
+}
+
+void CGalleryDlg::OnSceneChosen() {
+    const int chosen = m_scenes.GetCurSel();
+    if (chosen != LB_ERR)
+        ShowPage(*m_pages[chosen]);
+}
+
+void CGalleryDlg::ShowPage(CGalleryPage& page) {
+    if (m_shown != nullptr)
+        m_shown->ShowWindow(SW_HIDE);
+    m_shown = &page;
+    m_title.SetWindowText(page.GetTitle());
+    SetDlgItemText(IDC_DESCRIPTION, page.GetDescription());
+    page.ShowWindow(SW_SHOW);
+}

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/tour/PictureTour.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "automation/RealInput.h"
+#include "automation/Steady.h"
+#include "automation/SystemColors.h"
+#include "gallery/resource.h"
+#include "gallery/tour/Scenes.h"
+
+namespace {
+
+/// The visible dialog of this process; null when none appears within some seconds.
+HWND WaitForGallery() {
+    for (int look = 0; look < 500; ++look) {
+        HWND window = nullptr;
+        while ((window = ::FindWindowExA(nullptr, window, reinterpret_cast<LPCSTR>(WC_DIALOG),
+                                         nullptr)) != nullptr) {
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(window, &process);
+            if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
+                return window;
+        }
+        ::Sleep(20);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+PictureTour::PictureTour(std::string folder) : m_folder(std::move(folder)) {
+    std::error_code failed;
+    std::filesystem::create_directories(m_folder, failed); // writing says what is wrong
+}
+
+PictureTour::~PictureTour() {
+    Finish();
+}
+
+void PictureTour::Start() {
+    m_thread = std::thread([this] {
+        m_gallery = WaitForGallery();
+        m_complete = m_gallery != nullptr;
+        if (!m_complete)
+            return;
+        Run();
+        ::PostMessageA(m_gallery, WM_CLOSE, 0, 0);
+    });
+}
+
+bool PictureTour::Finish() {
+    if (m_thread.joinable())
+        m_thread.join();
+    return m_complete;
+}
+
+void PictureTour::Run() {
+    ::SetForegroundWindow(m_gallery);
+    // Where no window manager runs, nobody tells the caption that its window is the active one.
+    ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
+    for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
+        const automation::SystemColorGuard colors(scheme.colors);
+        VisitScenes(scheme.name);
+    }
+}
+
+void PictureTour::VisitScenes(const std::string& scheme) {
+    const bool isDefault = scheme == "default";
+    ChooseScene(0);
+    TourButtons(*this, isDefault ? "" : "-" + scheme);
+
+    // The whole window, with something hot in it.
+    ChooseScene(0);
+    automation::MoveMouseOver(::GetDlgItem(Page(), IDC_SUBJECT));
+    const automation::Picture window = automation::WaitUntilSteady(m_gallery);
+    if (isDefault)
+        Write(window, "gallery");
+    Write(window, "gallery-" + scheme);
+}
+
+HWND PictureTour::Page() const {
+    // The pages are the child dialogs; one of them is visible.
+    HWND page = nullptr;
+    do
+        page = ::FindWindowExA(m_gallery, page, reinterpret_cast<LPCSTR>(WC_DIALOG), nullptr);
+    while (page != nullptr && !::IsWindowVisible(page));
+    return page;
+}
+
+void PictureTour::ChooseScene(int index) const {
+    const HWND list = ::GetDlgItem(m_gallery, IDC_SCENES);
+    RECT item = {};
+    ::SendMessageA(list, LB_GETITEMRECT, index, reinterpret_cast<LPARAM>(&item));
+    POINT middle = {(item.left + item.right) / 2, (item.top + item.bottom) / 2};
+    ::ClientToScreen(list, &middle);
+    automation::MoveMouse(middle);
+    automation::PressMouse();
+    automation::ReleaseMouse();
+    automation::WaitUntilSteady(m_gallery);
+}
+
+void PictureTour::ParkMouse() const {
+    RECT gallery = {};
+    ::GetWindowRect(m_gallery, &gallery);
+    automation::MoveMouse({gallery.left + 1, gallery.bottom - 2});
+}
+
+automation::Picture PictureTour::PictureOf(HWND control) const {
+    constexpr int margin = 4;
+    automation::WaitUntilSteady(m_gallery);
+    RECT rect = {};
+    ::GetWindowRect(control, &rect);
+    ::InflateRect(&rect, margin, margin);
+    return automation::CaptureScreen(rect);
+}
+
+void PictureTour::Write(const automation::Picture& picture, const std::string& name) {
+    const std::string path = m_folder + "/" + name + ".png";
+    if (automation::WritePng(picture, path))
+        return;
+    std::fprintf(stderr, "gallery: cannot write %s\n", path.c_str());
+    m_complete = false;
+}

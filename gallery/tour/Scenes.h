@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+class PictureTour;
+
+/// The buttons in each of their states.
+/// @param suffix  appended to the names of the pictures: empty, or a hyphen and the scheme
+void TourButtons(PictureTour& tour, const std::string& suffix);
