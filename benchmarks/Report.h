@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "benchmarks/Comparison.h"
+
+/// The rows as a table for people.
+std::string FormatTable(const std::vector<Row>& rows);
+
+/// The rows as a JSON array of objects: what, against, oursMicroseconds, theirsMicroseconds, ratio.
+std::string FormatJson(const std::vector<Row>& rows);
