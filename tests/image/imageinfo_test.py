@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""imageinfo_test.py IMAGEINFO SEEDS: runs the command on pictures, good and bad."""
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = None
+SEEDS = None
+
+
+def run(*arguments):
+    done = subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, timeout=30)
+    return done.returncode, [json.loads(line) for line in done.stdout.decode().splitlines()]
+
+
+class ImageInfo(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.text = self.folder / 'text.txt'
+        self.text.write_text('no picture at all')
+
+    def test_prints_one_line_a_file(self):
+        status, lines = run(SEEDS / 'depth24.bmp', SEEDS / 'depth4.bmp')
+        self.assertEqual(status, 0)
+        self.assertEqual(lines[0], {
+            'file': str(SEEDS / 'depth24.bmp'), 'ok': True, 'error': '', 'format': 'bmp',
+            'width': 1, 'height': 2, 'bitCount': 24, 'paletteEntries': 0, 'xDpi': 0, 'yDpi': 0,
+            'transparentIndex': -1, 'backgroundColor': '#000000'})
+        self.assertEqual(lines[1]['paletteEntries'], 16)
+
+    def test_a_placeholder_counts_as_not_decoded(self):
+        for arguments in ([self.text], ['--memory', self.text], [self.folder / 'missing.txt']):
+            status, lines = run(*arguments)
+            self.assertEqual(status, 1)
+            self.assertFalse(lines[0]['ok'])
+            self.assertNotEqual(lines[0]['error'], '')
+            self.assertEqual((lines[0]['format'], lines[0]['width']), ('unknown', 0))
+
+    def test_goes_on_after_a_bad_file(self):
+        status, lines = run('--memory', self.text, SEEDS / 'depth24.bmp')
+        self.assertEqual((status, [line['ok'] for line in lines]), (1, [False, True]))
+
+    def test_writes_a_ppm_top_row_first(self):
+        ppm = self.folder / 'out.ppm'
+        status, _ = run('--ppm', ppm, SEEDS / 'depth24.bmp')
+        self.assertEqual(status, 0)
+        self.assertEqual(ppm.read_bytes(), b'P6\n1 2\n255\n' + bytes([6, 5, 4, 3, 2, 1]))
+        self.assertEqual(run('--ppm', self.folder / 'no' / 'out.ppm', SEEDS / 'depth24.bmp')[0], 1)
+
+    def test_refuses_wrong_arguments(self):
+        picture = SEEDS / 'depth24.bmp'
+        for arguments in ([], ['--unknown', picture], [picture, '--ppm'],
+                          ['--ppm', self.folder / 'a.ppm', picture, picture]):
+            self.assertEqual(run(*arguments), (1, []))
+
+
+if __name__ == '__main__':
+    PROGRAM, SEEDS = sys.argv[1], pathlib.Path(sys.argv[2])
+    unittest.main(argv=sys.argv[:1])
