@@ -22,36 +22,34 @@ using Handler = Signature T::*;
 
 // How a line is made. The lambda stands in a static member of the class whose map it is in: so it
 // may name protected handlers, and ThisClass is the class of every target it is called for.
-#define AFX_ON(message, code, id, lastId, registered, ...)                                         \
-    {message,                                                                                      \
-     static_cast<WORD>(code),                                                                      \
-     static_cast<WORD>(id),                                                                        \
-     static_cast<WORD>(lastId),                                                                    \
-     registered,                                                                                   \
-     []([[maybe_unused]] CCmdTarget* target, [[maybe_unused]] const afx::MapCall& call) -> BOOL {  \
-         __VA_ARGS__                                                                               \
+#define AFX_ON(message, code, id, lastId, registered, ...)                                        \
+    {message,                                                                                     \
+     static_cast<WORD>(code),                                                                     \
+     static_cast<WORD>(id),                                                                       \
+     static_cast<WORD>(lastId),                                                                   \
+     registered,                                                                                  \
+     []([[maybe_unused]] CCmdTarget* target, [[maybe_unused]] const afx::MapCall& call) -> BOOL { \
+         __VA_ARGS__                                                                              \
      }},
-#define AFX_HANDLER(memberFxn, ...)                                                                \
-    (static_cast<ThisClass*>(target)->*                                                            \
-     static_cast<afx::Handler<ThisClass, __VA_ARGS__>>(memberFxn))
+#define AFX_HANDLER(memberFxn, ...) \
+    (static_cast<ThisClass*>(target)->*static_cast<afx::Handler<ThisClass, __VA_ARGS__>>(memberFxn))
 
 // A window message, called through a layout of MessageCracker.h.
-#define AFX_ON_WINDOW(message, registered, memberFxn, signature, layout, how)                      \
-    AFX_ON(message, 0, 0, 0, registered,                                                           \
-           return afx::crack::layout::how(                                                         \
+#define AFX_ON_WINDOW(message, registered, memberFxn, signature, layout, how) \
+    AFX_ON(message, 0, 0, 0, registered,                                      \
+           return afx::crack::layout::how(                                    \
                target, static_cast<afx::Handler<ThisClass, signature>>(memberFxn), call);)
-#define AFX_ON_WM(message, member, signature, layout)                                              \
+#define AFX_ON_WM(message, member, signature, layout) \
     AFX_ON_WINDOW(message, nullptr, &ThisClass::member, signature, layout, Call)
-#define AFX_ON_WM_REFLECT(message, member, signature, layout, how)                                 \
+#define AFX_ON_WM_REFLECT(message, member, signature, layout, how) \
     AFX_ON_WINDOW(afx::ReflectBase + message, nullptr, &ThisClass::member, signature, layout, how)
 
 // Commands and notifications: the handler either always ends the routing or says so itself.
-#define AFX_ON_CODE(message, code, id, lastId, memberFxn, parameters, arguments)                   \
-    AFX_ON(message, code, id, lastId, nullptr,                                                     \
-           AFX_HANDLER(memberFxn, void parameters) arguments;                                      \
+#define AFX_ON_CODE(message, code, id, lastId, memberFxn, parameters, arguments)                  \
+    AFX_ON(message, code, id, lastId, nullptr, AFX_HANDLER(memberFxn, void parameters) arguments; \
            return TRUE;)
-#define AFX_ON_CODE_EX(message, code, id, lastId, memberFxn, parameters, arguments)                \
-    AFX_ON(message, code, id, lastId, nullptr,                                                     \
+#define AFX_ON_CODE_EX(message, code, id, lastId, memberFxn, parameters, arguments) \
+    AFX_ON(message, code, id, lastId, nullptr,                                      \
            return AFX_HANDLER(memberFxn, BOOL parameters) arguments;)
 
 // clang-format off
@@ -313,7 +311,8 @@ using Handler = Signature T::*;
     AFX_ON_WINDOW(message, nullptr, memberFxn, LRESULT(WPARAM, LPARAM), W_L, Call)
 // nMessageVariable: the variable that RegisterWindowMessage() was assigned to.
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn) \
-    AFX_ON_WINDOW(afx::RegisteredMessage, &nMessageVariable, memberFxn, LRESULT(WPARAM, LPARAM), W_L, Call)
+    AFX_ON_WINDOW(afx::RegisteredMessage, &nMessageVariable, memberFxn, LRESULT(WPARAM, \
+                  LPARAM), W_L, Call)
 
 // Messages posted to a thread: void memberFxn(WPARAM, LPARAM) in the map of a CWinThread.
 #define ON_THREAD_MESSAGE(message, memberFxn) \
@@ -343,7 +342,8 @@ using Handler = Signature T::*;
 #define ON_UPDATE_COMMAND_UI_RANGE(nID, nIDLast, memberFxn) \
     AFX_ON_CODE(WM_COMMAND, CN_UPDATE_COMMAND_UI, nID, nIDLast, memberFxn, (CCmdUI*), (call.ui))
 #define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn) \
-    AFX_ON_CODE(afx::ReflectBase + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0, memberFxn, (CCmdUI*), (call.ui))
+    AFX_ON_CODE(afx::ReflectBase + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0, memberFxn, (CCmdUI*), \
+                (call.ui))
 
 // ---- Notifications of controls through WM_COMMAND -----------------------------------------------
 
@@ -406,19 +406,25 @@ using Handler = Signature T::*;
 
 // void memberFxn(NMHDR* pNotifyStruct, LRESULT* result)
 #define ON_NOTIFY(wNotifyCode, nID, memberFxn) \
-    AFX_ON_CODE(WM_NOTIFY, wNotifyCode, nID, nID, memberFxn, (NMHDR*, LRESULT*), (call.notify, call.result))
+    AFX_ON_CODE(WM_NOTIFY, wNotifyCode, nID, nID, memberFxn, (NMHDR*, LRESULT*), \
+                (call.notify, call.result))
 // void memberFxn(UINT id, NMHDR* pNotifyStruct, LRESULT* result)
 #define ON_NOTIFY_RANGE(wNotifyCode, nID, nIDLast, memberFxn) \
-    AFX_ON_CODE(WM_NOTIFY, wNotifyCode, nID, nIDLast, memberFxn, (UINT, NMHDR*, LRESULT*), (call.id, call.notify, call.result))
+    AFX_ON_CODE(WM_NOTIFY, wNotifyCode, nID, nIDLast, memberFxn, (UINT, NMHDR*, LRESULT*), \
+                (call.id, call.notify, call.result))
 // BOOL memberFxn(UINT id, NMHDR* pNotifyStruct, LRESULT* result): FALSE lets the routing go on
 #define ON_NOTIFY_EX(wNotifyCode, nID, memberFxn) \
-    AFX_ON_CODE_EX(WM_NOTIFY, wNotifyCode, nID, nID, memberFxn, (UINT, NMHDR*, LRESULT*), (call.id, call.notify, call.result))
+    AFX_ON_CODE_EX(WM_NOTIFY, wNotifyCode, nID, nID, memberFxn, (UINT, NMHDR*, LRESULT*), \
+                   (call.id, call.notify, call.result))
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, nID, nIDLast, memberFxn) \
-    AFX_ON_CODE_EX(WM_NOTIFY, wNotifyCode, nID, nIDLast, memberFxn, (UINT, NMHDR*, LRESULT*), (call.id, call.notify, call.result))
+    AFX_ON_CODE_EX(WM_NOTIFY, wNotifyCode, nID, nIDLast, memberFxn, (UINT, NMHDR*, LRESULT*), \
+                   (call.id, call.notify, call.result))
 // In the control's own map: void memberFxn(NMHDR* pNotifyStruct, LRESULT* result)
 #define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn) \
-    AFX_ON_CODE(afx::ReflectBase + WM_NOTIFY, wNotifyCode, 0, 0, memberFxn, (NMHDR*, LRESULT*), (call.notify, call.result))
+    AFX_ON_CODE(afx::ReflectBase + WM_NOTIFY, wNotifyCode, 0, 0, memberFxn, (NMHDR*, LRESULT*), \
+                (call.notify, call.result))
 // BOOL memberFxn(NMHDR* pNotifyStruct, LRESULT* result): FALSE leaves it to the parent
 #define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn) \
-    AFX_ON_CODE_EX(afx::ReflectBase + WM_NOTIFY, wNotifyCode, 0, 0, memberFxn, (NMHDR*, LRESULT*), (call.notify, call.result))
+    AFX_ON_CODE_EX(afx::ReflectBase + WM_NOTIFY, wNotifyCode, 0, 0, memberFxn, (NMHDR*, LRESULT*), \
+                   (call.notify, call.result))
 // clang-format on

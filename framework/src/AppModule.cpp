@@ -36,8 +36,7 @@ LPCTSTR AFXAPI AfxGetAppName() {
     return app == nullptr ? nullptr : app->m_pszAppName;
 }
 
-void AFXAPI AfxEnableControlContainer() {
-}
+void AFXAPI AfxEnableControlContainer() {}
 
 // ---- Message boxes and prompts ------------------------------------------------------------------
 

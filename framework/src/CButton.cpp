@@ -82,8 +82,7 @@ BOOL CButton::GetTextMargin(RECT* pmargin) {
     return Send<BOOL>(*this, BCM_GETTEXTMARGIN, 0, pmargin);
 }
 
-void CButton::DrawItem(LPDRAWITEMSTRUCT) {
-}
+void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (message != WM_DRAWITEM) {

@@ -218,18 +218,15 @@ BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const {
 
 // ---- Self-drawing ------------------------------------------------------------------------------
 
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {
-}
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {
-}
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT) {
     return 0;
 }
 
-void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {
-}
+void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     LRESULT unused = 0;

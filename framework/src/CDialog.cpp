@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <afxwin.h>
 
+#include <new>
+
 #include "CreationHook.h"
 #include "Handles.h"
 #include "ThreadState.h"
@@ -16,8 +18,7 @@ END_MESSAGE_MAP()
 
 CDialog::CDialog()
     : m_templateName(nullptr), m_templateHandle(nullptr), m_template(nullptr),
-      m_dialogInit(nullptr), m_parent(nullptr), m_helpId(0) {
-}
+      m_dialogInit(nullptr), m_parent(nullptr), m_helpId(0) {}
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : CDialog() {
     SetTemplate(lpszTemplateName);
@@ -25,8 +26,7 @@ CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : CDialog() {
 }
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
-    : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {
-}
+    : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
 void CDialog::SetTemplate(LPCTSTR templateName) {
     if (IS_INTRESOURCE(templateName)) {
@@ -122,9 +122,11 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM, LPARAM) {
         return dialog->OnInitDialog();
     } catch (CException* e) {
         afx::AnswerException(e, *GetCurrentMessage());
-        dialog->EndDialog(-1);
-        return FALSE;
+    } catch (const std::bad_alloc&) {
+        afx::AnswerException(afx::MemoryException(), *GetCurrentMessage());
     }
+    dialog->EndDialog(-1);
+    return FALSE;
 }
 
 // ---- Modeless dialogs ---------------------------------------------------------------------------
@@ -249,8 +251,8 @@ void CDialog::EndDialog(int nResult) {
 // ---- Overridables -------------------------------------------------------------------------------
 
 BOOL CDialog::OnInitDialog() {
-    const BOOL filled = m_dialogInit != nullptr ? ExecuteDlgInit(m_dialogInit)
-                                                : ExecuteDlgInit(m_templateName);
+    const BOOL filled =
+        m_dialogInit != nullptr ? ExecuteDlgInit(m_dialogInit) : ExecuteDlgInit(m_templateName);
     if (!filled || !UpdateData(FALSE)) {
         TRACE("Warning: the contents of a dialog could not be loaded.\n");
         EndDialog(-1);
@@ -269,8 +271,7 @@ void CDialog::OnCancel() {
     EndDialog(IDCANCEL);
 }
 
-void CDialog::OnSetFont(CFont*) {
-}
+void CDialog::OnSetFont(CFont*) {}
 
 LRESULT CDialog::OnSetFontMessage(WPARAM wParam, LPARAM) {
     OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));

@@ -202,18 +202,15 @@ DWORD CListBox::GetListBoxInfo() const {
 
 // ---- Self-drawing ------------------------------------------------------------------------------
 
-void CListBox::DrawItem(LPDRAWITEMSTRUCT) {
-}
+void CListBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {
-}
+void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CListBox::CompareItem(LPCOMPAREITEMSTRUCT) {
     return 0;
 }
 
-void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {
-}
+void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 int CListBox::VKeyToItem(UINT, UINT) {
     return -1; // the list box does what it always does

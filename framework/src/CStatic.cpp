@@ -46,8 +46,7 @@ HENHMETAFILE CStatic::GetEnhMetaFile() const {
     return Send<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
 }
 
-void CStatic::DrawItem(LPDRAWITEMSTRUCT) {
-}
+void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (message != WM_DRAWITEM) {

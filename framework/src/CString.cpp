@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+// The characters and their buffer; what is done with them stands in CStringEdit.cpp.
 #include "afx/CString.h"
 
+#include "MultiByte.h"
 #include "StringBlock.h"
 #include "afx/CException.h"
 
@@ -8,38 +10,12 @@
 #include <climits>
 #include <cstring>
 #include <functional>
-#include <mbctype.h>
-#include <mbstring.h>
 #include <string>
 
+using afx::LengthOf;
 using afx::StringBlock;
 
 namespace {
-
-const unsigned char* bytes(const char* text) {
-    return reinterpret_cast<const unsigned char*>(text);
-}
-
-/// A null pointer stands for the empty string in all arguments.
-const char* orEmpty(const char* text) {
-    return text != nullptr ? text : "";
-}
-
-int lengthOf(const char* text) {
-    const size_t length = text != nullptr ? std::strlen(text) : 0;
-    if (length > INT_MAX) {
-        AfxThrowMemoryException();
-    }
-    return static_cast<int>(length);
-}
-
-int lengthOf(const wchar_t* text) {
-    const size_t length = text != nullptr ? std::wcslen(text) : 0;
-    if (length > INT_MAX) {
-        AfxThrowMemoryException();
-    }
-    return static_cast<int>(length);
-}
 
 int sumOfLengths(int a, int b) {
     if (a > INT_MAX - b) {
@@ -47,38 +23,6 @@ int sumOfLengths(int a, int b) {
     }
     return a + b;
 }
-
-int distance(const char* first, const void* last) {
-    return static_cast<int>(static_cast<const char*>(last) - first);
-}
-
-/// Bytes of the character at text[index], which may be the first half of a double-byte one.
-int characterSize(const char* text, int index, int length) {
-    const bool isDouble = index + 1 < length && _ismbblead(static_cast<BYTE>(text[index]));
-    return isDouble ? 2 : 1;
-}
-
-bool isInSet(const char* character, int size, const char* set) {
-    if (size == 1) {
-        return *character != '\0' && _mbschr(bytes(set), static_cast<BYTE>(*character)) != nullptr;
-    }
-    const unsigned pair = (static_cast<BYTE>(character[0]) << 8) | static_cast<BYTE>(character[1]);
-    return _mbschr(bytes(set), pair) != nullptr;
-}
-
-/// Where the characters that are in the set (or are not) end, seen from index on.
-int endOfSpan(const char* text, int index, int length, const char* set, bool inSet) {
-    while (index < length) {
-        const int size = characterSize(text, index, length);
-        if (isInSet(text + index, size, set) != inSet) {
-            break;
-        }
-        index += size;
-    }
-    return index;
-}
-
-constexpr char whitespace[] = " \t\n\v\f\r";
 
 } // namespace
 
@@ -95,12 +39,12 @@ CString::CString(const CString& strSrc) : CString() {
 
 CString::CString(const XCHAR* pszSrc) : CString() {
     if (!loadIfResource(pszSrc)) {
-        assignBytes(pszSrc, lengthOf(pszSrc));
+        assignBytes(pszSrc, LengthOf(pszSrc));
     }
 }
 
 CString::CString(const YCHAR* pszSrc) : CString() {
-    assignWide(pszSrc, lengthOf(pszSrc));
+    assignWide(pszSrc, LengthOf(pszSrc));
 }
 
 CString::CString(const unsigned char* pszSrc) : CString(reinterpret_cast<const char*>(pszSrc)) {}
@@ -148,12 +92,12 @@ CString& CString::operator=(const CString& strSrc) {
 }
 
 CString& CString::operator=(PCXSTR pszSrc) {
-    assignBytes(pszSrc, lengthOf(pszSrc));
+    assignBytes(pszSrc, LengthOf(pszSrc));
     return *this;
 }
 
 CString& CString::operator=(PCYSTR pszSrc) {
-    assignWide(pszSrc, lengthOf(pszSrc));
+    assignWide(pszSrc, LengthOf(pszSrc));
     return *this;
 }
 
@@ -317,7 +261,7 @@ CString::PCXSTR CString::GetString() const noexcept {
 }
 
 void CString::SetString(PCXSTR pszSrc) {
-    assignBytes(pszSrc, lengthOf(pszSrc));
+    assignBytes(pszSrc, LengthOf(pszSrc));
 }
 
 void CString::SetString(PCXSTR pszSrc, int nLength) {
@@ -392,310 +336,6 @@ void CString::Truncate(int nNewLength) {
         writable(nNewLength);
         setLength(nNewLength);
     }
-}
-
-// Comparison
-
-int CString::Compare(PCXSTR psz) const {
-    return _mbscmp(bytes(m_characters), bytes(orEmpty(psz)));
-}
-
-int CString::CompareNoCase(PCXSTR psz) const {
-    return _mbsicmp(bytes(m_characters), bytes(orEmpty(psz)));
-}
-
-int CString::Collate(PCXSTR psz) const {
-    return _mbscoll(bytes(m_characters), bytes(orEmpty(psz)));
-}
-
-int CString::CollateNoCase(PCXSTR psz) const {
-    return _mbsicoll(bytes(m_characters), bytes(orEmpty(psz)));
-}
-
-// Parts
-
-CString CString::Mid(int iFirst) const {
-    return Mid(iFirst, INT_MAX);
-}
-
-CString CString::Mid(int iFirst, int nCount) const {
-    iFirst = (std::min)((std::max)(iFirst, 0), GetLength());
-    nCount = (std::min)((std::max)(nCount, 0), GetLength() - iFirst);
-    return nCount == GetLength() ? *this : CString(m_characters + iFirst, nCount);
-}
-
-CString CString::Left(int nCount) const {
-    return Mid(0, nCount);
-}
-
-CString CString::Right(int nCount) const {
-    nCount = (std::min)((std::max)(nCount, 0), GetLength());
-    return Mid(GetLength() - nCount, nCount);
-}
-
-CString CString::SpanIncluding(PCXSTR pszCharSet) const {
-    return Left(endOfSpan(m_characters, 0, GetLength(), orEmpty(pszCharSet), true));
-}
-
-CString CString::SpanExcluding(PCXSTR pszCharSet) const {
-    return Left(endOfSpan(m_characters, 0, GetLength(), orEmpty(pszCharSet), false));
-}
-
-CString CString::Tokenize(PCXSTR pszTokens, int& iStart) const {
-    if (iStart < 0) {
-        AfxThrowInvalidArgException();
-    }
-    const char* const separators = orEmpty(pszTokens);
-    const int first = endOfSpan(m_characters, iStart, GetLength(), separators, true);
-    if (first < GetLength()) {
-        const int end = endOfSpan(m_characters, first, GetLength(), separators, false);
-        iStart = end + 1;
-        return Mid(first, end - first);
-    }
-    iStart = -1;
-    return CString();
-}
-
-// Changes
-
-void CString::Append(PCXSTR pszSrc) {
-    Append(pszSrc, lengthOf(pszSrc));
-}
-
-void CString::Append(PCXSTR pszSrc, int nLength) {
-    if (nLength < 0 || (pszSrc == nullptr && nLength > 0)) {
-        AfxThrowInvalidArgException();
-    }
-    if (nLength > 0) {
-        replaceRange(GetLength(), 0, pszSrc, nLength);
-    }
-}
-
-void CString::Append(const CString& strSrc) {
-    Append(strSrc.m_characters, strSrc.GetLength());
-}
-
-void CString::AppendChar(XCHAR ch) {
-    Append(&ch, 1);
-}
-
-CString& CString::operator+=(const CString& str) {
-    Append(str);
-    return *this;
-}
-
-CString& CString::operator+=(PCXSTR pszSrc) {
-    Append(pszSrc);
-    return *this;
-}
-
-CString& CString::operator+=(PCYSTR pszSrc) {
-    return *this += CString(pszSrc);
-}
-
-CString& CString::operator+=(char ch) {
-    AppendChar(ch);
-    return *this;
-}
-
-CString& CString::operator+=(unsigned char ch) {
-    AppendChar(static_cast<char>(ch));
-    return *this;
-}
-
-CString& CString::operator+=(wchar_t ch) {
-    return *this += CString(ch);
-}
-
-CString& CString::MakeUpper() {
-    ::CharUpperBuffA(writable(0), static_cast<DWORD>(GetLength()));
-    return *this;
-}
-
-CString& CString::MakeLower() {
-    ::CharLowerBuffA(writable(0), static_cast<DWORD>(GetLength()));
-    return *this;
-}
-
-CString& CString::MakeReverse() {
-    const CString source(*this);
-    const int length = GetLength();
-    char* const buffer = writable(length);
-    for (int index = 0; index < length;) {
-        const int size = characterSize(source, index, length);
-        std::memcpy(buffer + length - index - size, source.m_characters + index,
-                    static_cast<size_t>(size));
-        index += size;
-    }
-    return *this;
-}
-
-CString& CString::TrimLeft() {
-    return TrimLeft(whitespace);
-}
-
-CString& CString::TrimLeft(XCHAR chTarget) {
-    const char targets[] = {chTarget, '\0'};
-    return TrimLeft(targets);
-}
-
-CString& CString::TrimLeft(PCXSTR pszTargets) {
-    Delete(0, endOfSpan(m_characters, 0, GetLength(), orEmpty(pszTargets), true));
-    return *this;
-}
-
-CString& CString::TrimRight() {
-    return TrimRight(whitespace);
-}
-
-CString& CString::TrimRight(XCHAR chTarget) {
-    const char targets[] = {chTarget, '\0'};
-    return TrimRight(targets);
-}
-
-CString& CString::TrimRight(PCXSTR pszTargets) {
-    // From the front: only so is it known which byte starts a character.
-    const char* const targets = orEmpty(pszTargets);
-    const int length = GetLength();
-    int end = 0;
-    for (int index = 0; index < length;) {
-        const int size = characterSize(m_characters, index, length);
-        if (!isInSet(m_characters + index, size, targets)) {
-            end = index + size;
-        }
-        index += size;
-    }
-    Truncate(end);
-    return *this;
-}
-
-CString& CString::Trim() {
-    return TrimRight().TrimLeft();
-}
-
-CString& CString::Trim(XCHAR chTarget) {
-    return TrimRight(chTarget).TrimLeft(chTarget);
-}
-
-CString& CString::Trim(PCXSTR pszTargets) {
-    return TrimRight(pszTargets).TrimLeft(pszTargets);
-}
-
-int CString::Replace(XCHAR chOld, XCHAR chNew) {
-    int replaced = 0;
-    if (chOld != chNew) {
-        for (int found = Find(chOld); found >= 0; found = Find(chOld, found + 1)) {
-            SetAt(found, chNew);
-            ++replaced;
-        }
-    }
-    return replaced;
-}
-
-int CString::Replace(PCXSTR pszOld, PCXSTR pszNew) {
-    const int oldLength = lengthOf(pszOld);
-    int found = oldLength > 0 ? Find(pszOld) : -1;
-    if (found < 0) {
-        return 0;
-    }
-    const int newLength = lengthOf(pszNew);
-    CString result;
-    int copied = 0;
-    int replaced = 0;
-    for (; found >= 0; found = Find(pszOld, copied)) {
-        result.Append(m_characters + copied, found - copied);
-        result.Append(pszNew, newLength);
-        copied = found + oldLength;
-        ++replaced;
-    }
-    result.Append(m_characters + copied, GetLength() - copied);
-    *this = result;
-    return replaced;
-}
-
-int CString::Remove(XCHAR chRemove) {
-    const int length = GetLength();
-    if (Find(chRemove) < 0) {
-        return 0;
-    }
-    char* const buffer = writable(length);
-    int kept = 0;
-    for (int index = 0; index < length;) {
-        const int size = characterSize(buffer, index, length);
-        if (size == 2 || buffer[index] != chRemove) {
-            std::memmove(buffer + kept, buffer + index, static_cast<size_t>(size));
-            kept += size;
-        }
-        index += size;
-    }
-    setLength(kept);
-    return length - kept;
-}
-
-int CString::Insert(int iIndex, XCHAR ch) {
-    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
-    replaceRange(index, 0, &ch, 1);
-    return GetLength();
-}
-
-int CString::Insert(int iIndex, PCXSTR psz) {
-    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
-    const int length = lengthOf(psz);
-    if (length > 0) {
-        replaceRange(index, 0, psz, length);
-    }
-    return GetLength();
-}
-
-int CString::Delete(int iIndex, int nCount) {
-    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
-    const int count = (std::min)((std::max)(nCount, 0), GetLength() - index);
-    if (count > 0) {
-        replaceRange(index, count, nullptr, 0);
-    }
-    return GetLength();
-}
-
-void CString::AnsiToOem() {
-    char* const buffer = writable(0);
-    ::CharToOemBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
-}
-
-void CString::OemToAnsi() {
-    char* const buffer = writable(0);
-    ::OemToCharBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
-}
-
-// Search
-
-int CString::Find(XCHAR ch, int iStart) const noexcept {
-    if (iStart < 0 || iStart >= GetLength()) {
-        return -1;
-    }
-    const void* const found = _mbschr(bytes(m_characters + iStart), static_cast<BYTE>(ch));
-    const int index = found != nullptr ? distance(m_characters, found) : GetLength();
-    return index < GetLength() ? index : -1; // the terminating null is no part of the string
-}
-
-int CString::Find(PCXSTR pszSub, int iStart) const noexcept {
-    if (pszSub == nullptr || iStart < 0 || iStart > GetLength()) {
-        return -1;
-    }
-    const void* const found = _mbsstr(bytes(m_characters + iStart), bytes(pszSub));
-    return found != nullptr ? distance(m_characters, found) : -1;
-}
-
-int CString::FindOneOf(PCXSTR pszCharSet) const noexcept {
-    const void* const found = _mbspbrk(bytes(m_characters), bytes(orEmpty(pszCharSet)));
-    return found != nullptr ? distance(m_characters, found) : -1;
-}
-
-int CString::ReverseFind(XCHAR ch) const noexcept {
-    if (ch == '\0') {
-        return -1;
-    }
-    const void* const found = _mbsrchr(bytes(m_characters), static_cast<BYTE>(ch));
-    return found != nullptr ? distance(m_characters, found) : -1;
 }
 
 // Characters without an object

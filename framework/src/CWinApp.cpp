@@ -168,8 +168,7 @@ void CWinApp::DoWaitCursor(int nCode) {
 // ---- Cursors and icons --------------------------------------------------------------------------
 
 HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
-    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR),
-                        lpszResourceName);
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 
 HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
@@ -211,8 +210,7 @@ void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo) {
 }
 
 CCommandLineInfo::CCommandLineInfo()
-    : m_bShowSplash(TRUE), m_bRunEmbedded(FALSE), m_bRunAutomated(FALSE),
-      m_nShellCommand(FileNew) {
+    : m_bShowSplash(TRUE), m_bRunEmbedded(FALSE), m_bRunAutomated(FALSE), m_nShellCommand(FileNew) {
 }
 
 void CCommandLineInfo::ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast) {

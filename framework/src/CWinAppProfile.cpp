@@ -30,9 +30,8 @@ private:
 
 HKEY CreateKey(HKEY parent, LPCTSTR name) {
     HKEY key = nullptr;
-    const LSTATUS status =
-        ::RegCreateKeyEx(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE,
-                         nullptr, &key, nullptr);
+    const LSTATUS status = ::RegCreateKeyEx(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                            KEY_READ | KEY_WRITE, nullptr, &key, nullptr);
     return status == ERROR_SUCCESS ? key : nullptr;
 }
 

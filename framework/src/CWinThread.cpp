@@ -16,8 +16,7 @@ END_MESSAGE_MAP()
 
 CWinThread::CWinThread()
     : m_pMainWnd(nullptr), m_pActiveWnd(nullptr), m_bAutoDelete(TRUE), m_hThread(nullptr),
-      m_nThreadID(0), m_threadProc(nullptr), m_threadParam(nullptr), m_lastMouseMessage(0) {
-}
+      m_nThreadID(0), m_threadProc(nullptr), m_threadParam(nullptr), m_lastMouseMessage(0) {}
 
 CWinThread::~CWinThread() {
     if (m_hThread != nullptr) {
@@ -206,9 +205,8 @@ BOOL CWinThread::PumpMessage() {
 
 BOOL afx::PumpMessage() {
     CWinThread* const thread = AfxGetThread();
-    return thread != nullptr
-               ? thread->PumpMessage()
-               : Pump([](MSG* msg) { return WalkPreTranslateTree(nullptr, msg); });
+    return thread != nullptr ? thread->PumpMessage()
+                             : Pump([](MSG* msg) { return WalkPreTranslateTree(nullptr, msg); });
 }
 
 BOOL CWinThread::IsIdleMessage(MSG* pMsg) {

@@ -45,8 +45,7 @@ CListBox* afx::ListBoxFromHandle(HWND hWnd) {
 
 CWnd::CWnd()
     : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_modal(false),
-      m_modalResult(0) {
-}
+      m_modalResult(0) {}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {
@@ -98,8 +97,7 @@ HWND CWnd::Detach() {
     return hWnd;
 }
 
-void CWnd::PreSubclassWindow() {
-}
+void CWnd::PreSubclassWindow() {}
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
     if (!::IsWindow(hWnd) || !Attach(hWnd)) {
@@ -167,10 +165,9 @@ BOOL CWnd::CreateHandle(CREATESTRUCT& cs) {
         return FALSE;
     }
     const afx::CreationHook hook(this);
-    const HWND created =
-        ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style),
-                         cs.x, cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance,
-                         cs.lpCreateParams);
+    const HWND created = ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName,
+                                          static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy,
+                                          cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
     if (created != nullptr) {
         return TRUE;
     }
@@ -209,8 +206,7 @@ BOOL CWnd::DestroyWindow() {
     return destroyed;
 }
 
-void CWnd::PostNcDestroy() {
-}
+void CWnd::PostNcDestroy() {}
 
 void CWnd::ForgetAsMainWindow() {
     CWinThread* const thread = AfxGetThread();

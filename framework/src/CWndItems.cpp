@@ -207,14 +207,12 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName) {
 
 BOOL CWnd::ExecuteDlgInit(LPVOID lpResource) {
     return lpResource == nullptr ||
-           SendDlgInit(*this, static_cast<const BYTE*>(lpResource),
-                       ReadableSize(lpResource));
+           SendDlgInit(*this, static_cast<const BYTE*>(lpResource), ReadableSize(lpResource));
 }
 
 // ---- Data exchange ------------------------------------------------------------------------------
 
-void CWnd::DoDataExchange(CDataExchange*) {
-}
+void CWnd::DoDataExchange(CDataExchange*) {}
 
 namespace {
 

@@ -37,14 +37,6 @@ private:
     const MSG m_outer;
 };
 
-CException* MemoryException() {
-    try {
-        AfxThrowMemoryException();
-    } catch (CException* e) {
-        return e;
-    }
-}
-
 /// What happens to a message whose handler threw, when no thread object decides.
 LRESULT AnswerByDefault(const MSG& msg) {
     if (msg.message == WM_CREATE) {
@@ -59,12 +51,20 @@ LRESULT AnswerByDefault(const MSG& msg) {
 
 } // namespace
 
+CException* afx::MemoryException() {
+    try {
+        AfxThrowMemoryException();
+    } catch (CException* e) {
+        return e;
+    }
+}
+
 LRESULT afx::AnswerException(CException* e, const MSG& msg) {
     CWinThread* const thread = AfxGetThread();
     LRESULT answer = 0;
     try {
-        answer = thread != nullptr ? thread->ProcessWndProcException(e, &msg)
-                                   : AnswerByDefault(msg);
+        answer =
+            thread != nullptr ? thread->ProcessWndProcException(e, &msg) : AnswerByDefault(msg);
     } catch (CException* second) {
         // Whoever answers for the first one failed, too: nobody is left to ask.
         if (second != e) {
@@ -92,7 +92,7 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, L
     } catch (CException* e) {
         return afx::AnswerException(e, msg);
     } catch (const std::bad_alloc&) {
-        return afx::AnswerException(MemoryException(), msg);
+        return afx::AnswerException(afx::MemoryException(), msg);
     }
 }
 
@@ -246,8 +246,7 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     const auto id = static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom));
     LRESULT unused = 0;
     AFX_NOTIFY notify = {pResult != nullptr ? pResult : &unused, header};
-    return OnCmdMsg(id, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)),
-                    &notify, nullptr);
+    return OnCmdMsg(id, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
 }
 
 // ---- Reflection ---------------------------------------------------------------------------------

@@ -146,9 +146,8 @@ CFont* CWnd::GetFont() const {
 }
 
 HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon) {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, WM_SETICON,
-                                                 bBigIcon ? ICON_BIG : ICON_SMALL,
-                                                 reinterpret_cast<LPARAM>(hIcon)));
+    return reinterpret_cast<HICON>(::SendMessage(
+        m_hWnd, WM_SETICON, bBigIcon ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(hIcon)));
 }
 
 HICON CWnd::GetIcon(BOOL bBigIcon) const {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CreationHook.h"
 
+#include <new>
+
 #include "ThreadState.h"
 #include "WndAccess.h"
 
@@ -42,8 +44,10 @@ bool afx::CreationHook::AttachTo(HWND window) {
     } catch (CException* e) {
         // The system called us: an exception must not go on through it.
         e->Delete();
-        return false;
+    } catch (const std::bad_alloc&) {
+        TRACE("Error: no memory to attach a window to its object.\n");
     }
+    return false;
 }
 
 LRESULT CALLBACK afx::CreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam) {
@@ -57,8 +61,8 @@ LRESULT CALLBACK afx::CreationHook::HookProc(int code, WPARAM wParam, LPARAM lPa
 }
 
 void afx::InstallWndProc(CWnd& wnd) {
-    const auto previous = reinterpret_cast<WNDPROC>(::SetWindowLongPtr(
-        wnd.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    const auto previous = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(wnd.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (previous != &AfxWndProc) {
         WndAccess::SuperProc(wnd) = previous;
     }

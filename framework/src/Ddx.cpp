@@ -13,8 +13,7 @@
 
 CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
     : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd), m_lastControl(nullptr),
-      m_lastIsEdit(false) {
-}
+      m_lastIsEdit(false) {}
 
 HWND CDataExchange::PrepareCtrl(int nIDC) {
     HWND control = nullptr;
@@ -57,8 +56,7 @@ constexpr Prompt ParseInt = {AFX_IDP_PARSE_INT, "Please enter an integer."};
 constexpr Prompt ParseUint = {AFX_IDP_PARSE_UINT, "Please enter a positive integer."};
 constexpr Prompt ParseByte = {AFX_IDP_PARSE_BYTE, "Please enter an integer between 0 and 255."};
 constexpr Prompt ParseReal = {AFX_IDP_PARSE_REAL, "Please enter a number."};
-constexpr Prompt IntRange = {AFX_IDP_PARSE_INT_RANGE,
-                             "Please enter an integer between %1 and %2."};
+constexpr Prompt IntRange = {AFX_IDP_PARSE_INT_RANGE, "Please enter an integer between %1 and %2."};
 constexpr Prompt RealRange = {AFX_IDP_PARSE_REAL_RANGE, "Please enter a number between %1 and %2."};
 constexpr Prompt StringSize = {AFX_IDP_PARSE_STRING_SIZE,
                                "Please enter no more than %1 characters."};

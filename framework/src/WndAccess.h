@@ -27,5 +27,7 @@ BOOL PumpMessage();
 bool IsIdleMessage(MSG* msg);
 /// The answer to a message whose handler threw `e`, which is deleted.
 LRESULT AnswerException(CException* e, const MSG& msg);
+/// What the framework throws for lack of memory, in the place of std::bad_alloc.
+CException* MemoryException();
 
 } // namespace afx

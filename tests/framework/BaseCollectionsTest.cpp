@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -173,8 +175,10 @@ TEST(BaseArray, BadIndicesAndSizesThrow) {
     for (const auto& mistake : mistakes) {
         EXPECT_TRUE(Throws<CInvalidArgException>(mistake));
     }
-    EXPECT_TRUE(Throws<CMemoryException>([&] { array.SetSize(INTPTR_MAX); }));
-    EXPECT_TRUE(Throws<CMemoryException>([&] { array.InsertAt(3, 0, INTPTR_MAX - 2); }));
+    volatile INT_PTR tooMany = INTPTR_MAX; // so that the compiler does not foresee the overflow
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.SetSize(tooMany); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.InsertAt(3, 0, tooMany - 3); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { array.InsertAt(3, 0, tooMany - 2); }));
     EXPECT_EQ((Numbers{1, 2, 3}), Content(array));
 }
 

@@ -4,12 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <memory>
 #include <new>
 #include <string>
 
 #define new DEBUG_NEW
+#ifndef NDEBUG
 #undef THIS_FILE
 static char THIS_FILE[] = __FILE__;
+#endif
 
 class CTestBase : public CObject {
     DECLARE_DYNAMIC(CTestBase)

@@ -57,14 +57,18 @@ constexpr LPARAM L = 0x00560078;
     X(ON_WM_ENABLE, OnEnable, void, BOOL, WM_ENABLE, "120034") \
     X(ON_WM_CAPTURECHANGED, OnCaptureChanged, void, CWnd*, WM_CAPTURECHANGED, "CWnd:560078") \
     X(ON_WM_GETMINMAXINFO, OnGetMinMaxInfo, void, MINMAXINFO*, WM_GETMINMAXINFO, "p560078") \
-    X(ON_WM_WINDOWPOSCHANGING, OnWindowPosChanging, void, WINDOWPOS*, WM_WINDOWPOSCHANGING, "p560078") \
-    X(ON_WM_WINDOWPOSCHANGED, OnWindowPosChanged, void, WINDOWPOS*, WM_WINDOWPOSCHANGED, "p560078") \
+    X(ON_WM_WINDOWPOSCHANGING, OnWindowPosChanging, void, WINDOWPOS*, WM_WINDOWPOSCHANGING, \
+      "p560078") \
+    X(ON_WM_WINDOWPOSCHANGED, OnWindowPosChanged, void, WINDOWPOS*, WM_WINDOWPOSCHANGED, \
+      "p560078") \
     X(ON_WM_ERASEBKGND, OnEraseBkgnd, BOOL, CDC*, WM_ERASEBKGND, "CDC:120034") \
     X(ON_WM_ICONERASEBKGND, OnIconEraseBkgnd, void, CDC*, WM_ICONERASEBKGND, "CDC:120034") \
     X(ON_WM_PALETTECHANGED, OnPaletteChanged, void, CWnd*, WM_PALETTECHANGED, "CWnd:120034") \
-    X(ON_WM_PALETTEISCHANGING, OnPaletteIsChanging, void, CWnd*, WM_PALETTEISCHANGING, "CWnd:120034") \
+    X(ON_WM_PALETTEISCHANGING, OnPaletteIsChanging, void, CWnd*, WM_PALETTEISCHANGING, \
+      "CWnd:120034") \
     X(ON_WM_HELPINFO, OnHelpInfo, BOOL, HELPINFO*, WM_HELP, "p560078") \
-    X(ON_WM_INPUT_DEVICE_CHANGE, OnInputDeviceChange, void, unsigned short, WM_INPUT_DEVICE_CHANGE, "34") \
+    X(ON_WM_INPUT_DEVICE_CHANGE, OnInputDeviceChange, void, unsigned short, \
+      WM_INPUT_DEVICE_CHANGE, "34") \
     X(ON_WM_NCHITTEST, OnNcHitTest, LRESULT, CPoint, WM_NCHITTEST, "(78,56)") \
     X(ON_WM_TIMER, OnTimer, void, UINT_PTR, WM_TIMER, "120034") \
     X(ON_WM_INITMENU, OnInitMenu, void, CMenu*, WM_INITMENU, "CMenu:120034") \
@@ -74,8 +78,10 @@ constexpr LPARAM L = 0x00560078;
     X(ON_WM_DEVMODECHANGE, OnDevModeChange, void, LPTSTR, WM_DEVMODECHANGE, "p560078") \
     X(ON_WM_COMPACTING, OnCompacting, void, UINT, WM_COMPACTING, "120034") \
     X(ON_WM_ENDSESSION, OnEndSession, void, BOOL, WM_ENDSESSION, "120034") \
-    X(ON_WM_DWMNCRENDERINGCHANGED, OnNcRenderingChanged, void, BOOL, WM_DWMNCRENDERINGCHANGED, "120034") \
-    X(ON_WM_DWMWINDOWMAXIMIZEDCHANGE, OnWindowMaximizedChanged, void, BOOL, WM_DWMWINDOWMAXIMIZEDCHANGE, "120034") \
+    X(ON_WM_DWMNCRENDERINGCHANGED, OnNcRenderingChanged, void, BOOL, WM_DWMNCRENDERINGCHANGED, \
+      "120034") \
+    X(ON_WM_DWMWINDOWMAXIMIZEDCHANGE, OnWindowMaximizedChanged, void, BOOL, \
+      WM_DWMWINDOWMAXIMIZEDCHANGE, "120034") \
     X(ON_WM_RENDERFORMAT, OnRenderFormat, void, UINT, WM_RENDERFORMAT, "120034") \
     X(ON_WM_DROPFILES, OnDropFiles, void, HDROP, WM_DROPFILES, "p120034")
 
@@ -87,68 +93,102 @@ constexpr LPARAM L = 0x00560078;
     X(ON_WM_MOVE, OnMove, void, int, int, WM_MOVE, "78 56") \
     X(ON_WM_MOVING, OnMoving, void, UINT, LPRECT, WM_MOVING, "120034 p560078") \
     X(ON_WM_SHOWWINDOW, OnShowWindow, void, BOOL, UINT, WM_SHOWWINDOW, "120034 560078") \
-    X(ON_WM_STYLECHANGING, OnStyleChanging, void, int, LPSTYLESTRUCT, WM_STYLECHANGING, "120034 p560078") \
-    X(ON_WM_STYLECHANGED, OnStyleChanged, void, int, LPSTYLESTRUCT, WM_STYLECHANGED, "120034 p560078") \
-    X(ON_WM_NCCALCSIZE, OnNcCalcSize, void, BOOL, NCCALCSIZE_PARAMS*, WM_NCCALCSIZE, "120034 p560078") \
+    X(ON_WM_STYLECHANGING, OnStyleChanging, void, int, LPSTYLESTRUCT, WM_STYLECHANGING, \
+      "120034 p560078") \
+    X(ON_WM_STYLECHANGED, OnStyleChanged, void, int, LPSTYLESTRUCT, WM_STYLECHANGED, \
+      "120034 p560078") \
+    X(ON_WM_NCCALCSIZE, OnNcCalcSize, void, BOOL, NCCALCSIZE_PARAMS*, WM_NCCALCSIZE, \
+      "120034 p560078") \
     X(ON_WM_DRAWITEM, OnDrawItem, void, int, LPDRAWITEMSTRUCT, WM_DRAWITEM, "120034 p560078") \
-    X(ON_WM_MEASUREITEM, OnMeasureItem, void, int, LPMEASUREITEMSTRUCT, WM_MEASUREITEM, "120034 p560078") \
-    X(ON_WM_COMPAREITEM, OnCompareItem, int, int, LPCOMPAREITEMSTRUCT, WM_COMPAREITEM, "120034 p560078") \
-    X(ON_WM_DELETEITEM, OnDeleteItem, void, int, LPDELETEITEMSTRUCT, WM_DELETEITEM, "120034 p560078") \
-    X(ON_WM_INPUTLANGCHANGE, OnInputLangChange, void, UINT, UINT, WM_INPUTLANGCHANGE, "120034 560078") \
-    X(ON_WM_INPUTLANGCHANGEREQUEST, OnInputLangChangeRequest, void, UINT, UINT, WM_INPUTLANGCHANGEREQUEST, "120034 560078") \
+    X(ON_WM_MEASUREITEM, OnMeasureItem, void, int, LPMEASUREITEMSTRUCT, WM_MEASUREITEM, \
+      "120034 p560078") \
+    X(ON_WM_COMPAREITEM, OnCompareItem, int, int, LPCOMPAREITEMSTRUCT, WM_COMPAREITEM, \
+      "120034 p560078") \
+    X(ON_WM_DELETEITEM, OnDeleteItem, void, int, LPDELETEITEMSTRUCT, WM_DELETEITEM, \
+      "120034 p560078") \
+    X(ON_WM_INPUTLANGCHANGE, OnInputLangChange, void, UINT, UINT, WM_INPUTLANGCHANGE, \
+      "120034 560078") \
+    X(ON_WM_INPUTLANGCHANGEREQUEST, OnInputLangChangeRequest, void, UINT, UINT, \
+      WM_INPUTLANGCHANGEREQUEST, "120034 560078") \
     X(ON_WM_MOUSEMOVE, OnMouseMove, void, UINT, CPoint, WM_MOUSEMOVE, "120034 (78,56)") \
     X(ON_WM_MOUSEHOVER, OnMouseHover, void, UINT, CPoint, WM_MOUSEHOVER, "120034 (78,56)") \
     X(ON_WM_LBUTTONDOWN, OnLButtonDown, void, UINT, CPoint, WM_LBUTTONDOWN, "120034 (78,56)") \
     X(ON_WM_LBUTTONUP, OnLButtonUp, void, UINT, CPoint, WM_LBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_LBUTTONDBLCLK, OnLButtonDblClk, void, UINT, CPoint, WM_LBUTTONDBLCLK, "120034 (78,56)") \
+    X(ON_WM_LBUTTONDBLCLK, OnLButtonDblClk, void, UINT, CPoint, WM_LBUTTONDBLCLK, \
+      "120034 (78,56)") \
     X(ON_WM_RBUTTONDOWN, OnRButtonDown, void, UINT, CPoint, WM_RBUTTONDOWN, "120034 (78,56)") \
     X(ON_WM_RBUTTONUP, OnRButtonUp, void, UINT, CPoint, WM_RBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_RBUTTONDBLCLK, OnRButtonDblClk, void, UINT, CPoint, WM_RBUTTONDBLCLK, "120034 (78,56)") \
+    X(ON_WM_RBUTTONDBLCLK, OnRButtonDblClk, void, UINT, CPoint, WM_RBUTTONDBLCLK, \
+      "120034 (78,56)") \
     X(ON_WM_MBUTTONDOWN, OnMButtonDown, void, UINT, CPoint, WM_MBUTTONDOWN, "120034 (78,56)") \
     X(ON_WM_MBUTTONUP, OnMButtonUp, void, UINT, CPoint, WM_MBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_MBUTTONDBLCLK, OnMButtonDblClk, void, UINT, CPoint, WM_MBUTTONDBLCLK, "120034 (78,56)") \
+    X(ON_WM_MBUTTONDBLCLK, OnMButtonDblClk, void, UINT, CPoint, WM_MBUTTONDBLCLK, \
+      "120034 (78,56)") \
     X(ON_WM_INPUT, OnRawInput, void, UINT, HRAWINPUT, WM_INPUT, "120034 p560078") \
     X(ON_WM_NCMOUSEMOVE, OnNcMouseMove, void, UINT, CPoint, WM_NCMOUSEMOVE, "120034 (78,56)") \
     X(ON_WM_NCMOUSEHOVER, OnNcMouseHover, void, UINT, CPoint, WM_NCMOUSEHOVER, "120034 (78,56)") \
-    X(ON_WM_NCLBUTTONDOWN, OnNcLButtonDown, void, UINT, CPoint, WM_NCLBUTTONDOWN, "120034 (78,56)") \
+    X(ON_WM_NCLBUTTONDOWN, OnNcLButtonDown, void, UINT, CPoint, WM_NCLBUTTONDOWN, \
+      "120034 (78,56)") \
     X(ON_WM_NCLBUTTONUP, OnNcLButtonUp, void, UINT, CPoint, WM_NCLBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCLBUTTONDBLCLK, OnNcLButtonDblClk, void, UINT, CPoint, WM_NCLBUTTONDBLCLK, "120034 (78,56)") \
-    X(ON_WM_NCRBUTTONDOWN, OnNcRButtonDown, void, UINT, CPoint, WM_NCRBUTTONDOWN, "120034 (78,56)") \
+    X(ON_WM_NCLBUTTONDBLCLK, OnNcLButtonDblClk, void, UINT, CPoint, WM_NCLBUTTONDBLCLK, \
+      "120034 (78,56)") \
+    X(ON_WM_NCRBUTTONDOWN, OnNcRButtonDown, void, UINT, CPoint, WM_NCRBUTTONDOWN, \
+      "120034 (78,56)") \
     X(ON_WM_NCRBUTTONUP, OnNcRButtonUp, void, UINT, CPoint, WM_NCRBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCRBUTTONDBLCLK, OnNcRButtonDblClk, void, UINT, CPoint, WM_NCRBUTTONDBLCLK, "120034 (78,56)") \
-    X(ON_WM_NCMBUTTONDOWN, OnNcMButtonDown, void, UINT, CPoint, WM_NCMBUTTONDOWN, "120034 (78,56)") \
+    X(ON_WM_NCRBUTTONDBLCLK, OnNcRButtonDblClk, void, UINT, CPoint, WM_NCRBUTTONDBLCLK, \
+      "120034 (78,56)") \
+    X(ON_WM_NCMBUTTONDOWN, OnNcMButtonDown, void, UINT, CPoint, WM_NCMBUTTONDOWN, \
+      "120034 (78,56)") \
     X(ON_WM_NCMBUTTONUP, OnNcMButtonUp, void, UINT, CPoint, WM_NCMBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCMBUTTONDBLCLK, OnNcMButtonDblClk, void, UINT, CPoint, WM_NCMBUTTONDBLCLK, "120034 (78,56)") \
-    X(ON_WM_CONTEXTMENU, OnContextMenu, void, CWnd*, CPoint, WM_CONTEXTMENU, "CWnd:120034 (78,56)") \
-    X(ON_WM_UNINITMENUPOPUP, OnUnInitMenuPopup, void, CMenu*, UINT, WM_UNINITMENUPOPUP, "CMenu:120034 56") \
+    X(ON_WM_NCMBUTTONDBLCLK, OnNcMButtonDblClk, void, UINT, CPoint, WM_NCMBUTTONDBLCLK, \
+      "120034 (78,56)") \
+    X(ON_WM_CONTEXTMENU, OnContextMenu, void, CWnd*, CPoint, WM_CONTEXTMENU, \
+      "CWnd:120034 (78,56)") \
+    X(ON_WM_UNINITMENUPOPUP, OnUnInitMenuPopup, void, CMenu*, UINT, WM_UNINITMENUPOPUP, \
+      "CMenu:120034 56") \
     X(ON_WM_MENUDRAG, OnMenuDrag, UINT, UINT, CMenu*, WM_MENUDRAG, "120034 CMenu:560078") \
-    X(ON_WM_MENURBUTTONUP, OnMenuRButtonUp, void, UINT, CMenu*, WM_MENURBUTTONUP, "120034 CMenu:560078") \
+    X(ON_WM_MENURBUTTONUP, OnMenuRButtonUp, void, UINT, CMenu*, WM_MENURBUTTONUP, \
+      "120034 CMenu:560078") \
     X(ON_WM_NEXTMENU, OnNextMenu, void, UINT, LPMDINEXTMENU, WM_NEXTMENU, "120034 p560078") \
     X(ON_WM_SYSCOMMAND, OnSysCommand, void, UINT, LPARAM, WM_SYSCOMMAND, "120034 560078") \
     X(ON_WM_CHANGEUISTATE, OnChangeUIState, void, UINT, UINT, WM_CHANGEUISTATE, "34 12") \
     X(ON_WM_UPDATEUISTATE, OnUpdateUIState, void, UINT, UINT, WM_UPDATEUISTATE, "34 12") \
-    X(ON_WM_SETTINGCHANGE, OnSettingChange, void, UINT, LPCTSTR, WM_SETTINGCHANGE, "120034 p560078") \
+    X(ON_WM_SETTINGCHANGE, OnSettingChange, void, UINT, LPCTSTR, WM_SETTINGCHANGE, \
+      "120034 p560078") \
     X(ON_WM_DEVICECHANGE, OnDeviceChange, BOOL, UINT, DWORD_PTR, WM_DEVICECHANGE, "120034 560078") \
     X(ON_WM_SPOOLERSTATUS, OnSpoolerStatus, void, UINT, UINT, WM_SPOOLERSTATUS, "120034 78") \
-    X(ON_WM_POWERBROADCAST, OnPowerBroadcast, UINT, UINT, UINT, WM_POWERBROADCAST, "120034 560078") \
-    X(ON_WM_WTSSESSION_CHANGE, OnSessionChange, void, UINT, UINT, WM_WTSSESSION_CHANGE, "120034 560078") \
-    X(ON_WM_DWMCOLORIZATIONCOLORCHANGED, OnColorizationColorChanged, void, DWORD, BOOL, WM_DWMCOLORIZATIONCOLORCHANGED, "120034 560078") \
-    X(ON_WM_ASKCBFORMATNAME, OnAskCbFormatName, void, UINT, LPTSTR, WM_ASKCBFORMATNAME, "120034 p560078") \
+    X(ON_WM_POWERBROADCAST, OnPowerBroadcast, UINT, UINT, UINT, WM_POWERBROADCAST, \
+      "120034 560078") \
+    X(ON_WM_WTSSESSION_CHANGE, OnSessionChange, void, UINT, UINT, WM_WTSSESSION_CHANGE, \
+      "120034 560078") \
+    X(ON_WM_DWMCOLORIZATIONCOLORCHANGED, OnColorizationColorChanged, void, DWORD, BOOL, \
+      WM_DWMCOLORIZATIONCOLORCHANGED, "120034 560078") \
+    X(ON_WM_ASKCBFORMATNAME, OnAskCbFormatName, void, UINT, LPTSTR, WM_ASKCBFORMATNAME, \
+      "120034 p560078") \
     X(ON_WM_CHANGECBCHAIN, OnChangeCbChain, void, HWND, HWND, WM_CHANGECBCHAIN, "p120034 p560078") \
-    X(ON_WM_PAINTCLIPBOARD, OnPaintClipboard, void, CWnd*, HGLOBAL, WM_PAINTCLIPBOARD, "CWnd:120034 p560078") \
-    X(ON_WM_SIZECLIPBOARD, OnSizeClipboard, void, CWnd*, HGLOBAL, WM_SIZECLIPBOARD, "CWnd:120034 p560078") \
-    X(ON_WM_COPYDATA, OnCopyData, BOOL, CWnd*, COPYDATASTRUCT*, WM_COPYDATA, "CWnd:120034 p560078") \
-    X(ON_WM_NOTIFYFORMAT, OnNotifyFormat, UINT, CWnd*, UINT, WM_NOTIFYFORMAT, "CWnd:120034 560078") \
+    X(ON_WM_PAINTCLIPBOARD, OnPaintClipboard, void, CWnd*, HGLOBAL, WM_PAINTCLIPBOARD, \
+      "CWnd:120034 p560078") \
+    X(ON_WM_SIZECLIPBOARD, OnSizeClipboard, void, CWnd*, HGLOBAL, WM_SIZECLIPBOARD, \
+      "CWnd:120034 p560078") \
+    X(ON_WM_COPYDATA, OnCopyData, BOOL, CWnd*, COPYDATASTRUCT*, WM_COPYDATA, \
+      "CWnd:120034 p560078") \
+    X(ON_WM_NOTIFYFORMAT, OnNotifyFormat, UINT, CWnd*, UINT, WM_NOTIFYFORMAT, \
+      "CWnd:120034 560078") \
     X(ON_WM_TCARD, OnTCard, void, UINT, DWORD, WM_TCARD, "120034 560078")
 
 #define ROWS3(X) \
     X(ON_WM_ACTIVATE, OnActivate, void, UINT, CWnd*, BOOL, WM_ACTIVATE, "34 CWnd:560078 12") \
-    X(ON_WM_MDIACTIVATE, OnMDIActivate, void, BOOL, CWnd*, CWnd*, WM_MDIACTIVATE, "0 CWnd:560078 CWnd:120034") \
-    X(ON_WM_MOUSEACTIVATE, OnMouseActivate, int, CWnd*, UINT, UINT, WM_MOUSEACTIVATE, "CWnd:120034 78 56") \
+    X(ON_WM_MDIACTIVATE, OnMDIActivate, void, BOOL, CWnd*, CWnd*, WM_MDIACTIVATE, \
+      "0 CWnd:560078 CWnd:120034") \
+    X(ON_WM_MOUSEACTIVATE, OnMouseActivate, int, CWnd*, UINT, UINT, WM_MOUSEACTIVATE, \
+      "CWnd:120034 78 56") \
     X(ON_WM_SIZE, OnSize, void, UINT, int, int, WM_SIZE, "120034 78 56") \
-    X(ON_WM_CTLCOLOR, OnCtlColor, HBRUSH, CDC*, CWnd*, UINT, WM_CTLCOLORSTATIC, "CDC:120034 CWnd:560078 6") \
-    X(ON_WM_CHARTOITEM, OnCharToItem, int, UINT, CListBox*, UINT, WM_CHARTOITEM, "34 CListBox:560078 12") \
-    X(ON_WM_VKEYTOITEM, OnVKeyToItem, int, UINT, CListBox*, UINT, WM_VKEYTOITEM, "34 CListBox:560078 12") \
+    X(ON_WM_CTLCOLOR, OnCtlColor, HBRUSH, CDC*, CWnd*, UINT, WM_CTLCOLORSTATIC, \
+      "CDC:120034 CWnd:560078 6") \
+    X(ON_WM_CHARTOITEM, OnCharToItem, int, UINT, CListBox*, UINT, WM_CHARTOITEM, \
+      "34 CListBox:560078 12") \
+    X(ON_WM_VKEYTOITEM, OnVKeyToItem, int, UINT, CListBox*, UINT, WM_VKEYTOITEM, \
+      "34 CListBox:560078 12") \
     X(ON_WM_KEYDOWN, OnKeyDown, void, UINT, UINT, UINT, WM_KEYDOWN, "120034 78 56") \
     X(ON_WM_KEYUP, OnKeyUp, void, UINT, UINT, UINT, WM_KEYUP, "120034 78 56") \
     X(ON_WM_CHAR, OnChar, void, UINT, UINT, UINT, WM_CHAR, "120034 78 56") \
@@ -161,23 +201,34 @@ constexpr LPARAM L = 0x00560078;
     X(ON_WM_HOTKEY, OnHotKey, void, UINT, UINT, UINT, WM_HOTKEY, "120034 78 56") \
     X(ON_WM_SETCURSOR, OnSetCursor, BOOL, CWnd*, UINT, UINT, WM_SETCURSOR, "CWnd:120034 78 56") \
     X(ON_WM_MOUSEWHEEL, OnMouseWheel, BOOL, UINT, short, CPoint, WM_MOUSEWHEEL, "34 12 (78,56)") \
-    X(ON_WM_MOUSEHWHEEL, OnMouseHWheel, void, UINT, short, CPoint, WM_MOUSEHWHEEL, "34 12 (78,56)") \
+    X(ON_WM_MOUSEHWHEEL, OnMouseHWheel, void, UINT, short, CPoint, WM_MOUSEHWHEEL, \
+      "34 12 (78,56)") \
     X(ON_WM_XBUTTONDOWN, OnXButtonDown, void, UINT, UINT, CPoint, WM_XBUTTONDOWN, "34 12 (78,56)") \
     X(ON_WM_XBUTTONUP, OnXButtonUp, void, UINT, UINT, CPoint, WM_XBUTTONUP, "34 12 (78,56)") \
-    X(ON_WM_XBUTTONDBLCLK, OnXButtonDblClk, void, UINT, UINT, CPoint, WM_XBUTTONDBLCLK, "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONDOWN, OnNcXButtonDown, void, short, UINT, CPoint, WM_NCXBUTTONDOWN, "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONUP, OnNcXButtonUp, void, short, UINT, CPoint, WM_NCXBUTTONUP, "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONDBLCLK, OnNcXButtonDblClk, void, short, UINT, CPoint, WM_NCXBUTTONDBLCLK, "34 12 (78,56)") \
-    X(ON_WM_HSCROLL, OnHScroll, void, UINT, UINT, CScrollBar*, WM_HSCROLL, "34 12 CScrollBar:560078") \
-    X(ON_WM_VSCROLL, OnVScroll, void, UINT, UINT, CScrollBar*, WM_VSCROLL, "34 12 CScrollBar:560078") \
-    X(ON_WM_INITMENUPOPUP, OnInitMenuPopup, void, CMenu*, UINT, BOOL, WM_INITMENUPOPUP, "CMenu:120034 78 56") \
+    X(ON_WM_XBUTTONDBLCLK, OnXButtonDblClk, void, UINT, UINT, CPoint, WM_XBUTTONDBLCLK, \
+      "34 12 (78,56)") \
+    X(ON_WM_NCXBUTTONDOWN, OnNcXButtonDown, void, short, UINT, CPoint, WM_NCXBUTTONDOWN, \
+      "34 12 (78,56)") \
+    X(ON_WM_NCXBUTTONUP, OnNcXButtonUp, void, short, UINT, CPoint, WM_NCXBUTTONUP, \
+      "34 12 (78,56)") \
+    X(ON_WM_NCXBUTTONDBLCLK, OnNcXButtonDblClk, void, short, UINT, CPoint, WM_NCXBUTTONDBLCLK, \
+      "34 12 (78,56)") \
+    X(ON_WM_HSCROLL, OnHScroll, void, UINT, UINT, CScrollBar*, WM_HSCROLL, \
+      "34 12 CScrollBar:560078") \
+    X(ON_WM_VSCROLL, OnVScroll, void, UINT, UINT, CScrollBar*, WM_VSCROLL, \
+      "34 12 CScrollBar:560078") \
+    X(ON_WM_INITMENUPOPUP, OnInitMenuPopup, void, CMenu*, UINT, BOOL, WM_INITMENUPOPUP, \
+      "CMenu:120034 78 56") \
     X(ON_WM_MENUSELECT, OnMenuSelect, void, UINT, UINT, HMENU, WM_MENUSELECT, "34 12 p560078") \
     X(ON_WM_MENUCHAR, OnMenuChar, LRESULT, UINT, UINT, CMenu*, WM_MENUCHAR, "34 12 CMenu:560078") \
-    X(ON_WM_HSCROLLCLIPBOARD, OnHScrollClipboard, void, CWnd*, UINT, UINT, WM_HSCROLLCLIPBOARD, "CWnd:120034 78 56") \
-    X(ON_WM_VSCROLLCLIPBOARD, OnVScrollClipboard, void, CWnd*, UINT, UINT, WM_VSCROLLCLIPBOARD, "CWnd:120034 78 56")
+    X(ON_WM_HSCROLLCLIPBOARD, OnHScrollClipboard, void, CWnd*, UINT, UINT, \
+      WM_HSCROLLCLIPBOARD, "CWnd:120034 78 56") \
+    X(ON_WM_VSCROLLCLIPBOARD, OnVScrollClipboard, void, CWnd*, UINT, UINT, \
+      WM_VSCROLLCLIPBOARD, "CWnd:120034 78 56")
 
 #define ROWS4(X) \
-    X(ON_WM_APPCOMMAND, OnAppCommand, void, CWnd*, UINT, UINT, UINT, WM_APPCOMMAND, "CWnd:120034 56 0 78")
+    X(ON_WM_APPCOMMAND, OnAppCommand, void, CWnd*, UINT, UINT, UINT, WM_APPCOMMAND, \
+      "CWnd:120034 56 0 78")
 
 // clang-format on
 
@@ -229,30 +280,30 @@ R AnswerAs() {
     }
 }
 
-#define DECLARE0(macro, name, R, message, text)                                                    \
-    afx_msg R name() {                                                                             \
-        m_called = Show(#name);                                                                    \
-        return AnswerAs<R>();                                                                      \
+#define DECLARE0(macro, name, R, message, text) \
+    afx_msg R name() {                          \
+        m_called = Show(#name);                 \
+        return AnswerAs<R>();                   \
     }
-#define DECLARE1(macro, name, R, A, message, text)                                                 \
-    afx_msg R name(A a) {                                                                          \
-        m_called = Show(#name, a);                                                                 \
-        return AnswerAs<R>();                                                                      \
+#define DECLARE1(macro, name, R, A, message, text) \
+    afx_msg R name(A a) {                          \
+        m_called = Show(#name, a);                 \
+        return AnswerAs<R>();                      \
     }
-#define DECLARE2(macro, name, R, A, B, message, text)                                              \
-    afx_msg R name(A a, B b) {                                                                     \
-        m_called = Show(#name, a, b);                                                              \
-        return AnswerAs<R>();                                                                      \
+#define DECLARE2(macro, name, R, A, B, message, text) \
+    afx_msg R name(A a, B b) {                        \
+        m_called = Show(#name, a, b);                 \
+        return AnswerAs<R>();                         \
     }
-#define DECLARE3(macro, name, R, A, B, C, message, text)                                           \
-    afx_msg R name(A a, B b, C c) {                                                                \
-        m_called = Show(#name, a, b, c);                                                           \
-        return AnswerAs<R>();                                                                      \
+#define DECLARE3(macro, name, R, A, B, C, message, text) \
+    afx_msg R name(A a, B b, C c) {                      \
+        m_called = Show(#name, a, b, c);                 \
+        return AnswerAs<R>();                            \
     }
-#define DECLARE4(macro, name, R, A, B, C, D, message, text)                                        \
-    afx_msg R name(A a, B b, C c, D d) {                                                           \
-        m_called = Show(#name, a, b, c, d);                                                        \
-        return AnswerAs<R>();                                                                      \
+#define DECLARE4(macro, name, R, A, B, C, D, message, text) \
+    afx_msg R name(A a, B b, C c, D d) {                    \
+        m_called = Show(#name, a, b, c, d);                 \
+        return AnswerAs<R>();                               \
     }
 #define MAP0(macro, name, R, message, text) macro()
 #define MAP1(macro, name, R, A, message, text) macro()
@@ -295,8 +346,8 @@ struct WindowMessage {
     bool isVoid;
 };
 
-const WindowMessage windowMessages[] = {
-    ROWS0(LINE0) ROWS1(LINE1) ROWS2(LINE2) ROWS3(LINE3) ROWS4(LINE4)};
+const WindowMessage windowMessages[] = {ROWS0(LINE0) ROWS1(LINE1) ROWS2(LINE2) ROWS3(LINE3)
+                                            ROWS4(LINE4)};
 
 /// What Windows is told about a message whose handler returns nothing.
 LRESULT AnswerOfVoid(UINT message) {
@@ -480,12 +531,18 @@ struct CommandRow {
 
 TEST(MessageMap, CommandsAndNotificationsFindTheirLine) {
     const CommandRow rows[] = {
-        {100, CN_COMMAND, "plain"},       {101, CN_COMMAND, "ex 101"},
-        {109, CN_COMMAND, ""},            {110, CN_COMMAND, "range 110"},
-        {112, CN_COMMAND, "range 112"},   {113, CN_COMMAND, ""},
-        {120, CN_COMMAND, "exrange 120"}, {122, CN_COMMAND, "exrange 122"},
-        {130, EN_CHANGE, "change"},       {130, EN_UPDATE, ""},
-        {131, EN_CHANGE, ""},             {131, BN_DOUBLECLICKED, "controlrange 131"},
+        {100, CN_COMMAND, "plain"},
+        {101, CN_COMMAND, "ex 101"},
+        {109, CN_COMMAND, ""},
+        {110, CN_COMMAND, "range 110"},
+        {112, CN_COMMAND, "range 112"},
+        {113, CN_COMMAND, ""},
+        {120, CN_COMMAND, "exrange 120"},
+        {122, CN_COMMAND, "exrange 122"},
+        {130, EN_CHANGE, "change"},
+        {130, EN_UPDATE, ""},
+        {131, EN_CHANGE, ""},
+        {131, BN_DOUBLECLICKED, "controlrange 131"},
         {133, BN_DOUBLECLICKED, "controlrange 133"},
     };
     for (const CommandRow& row : rows) {
@@ -503,9 +560,12 @@ TEST(MessageMap, NotificationsThroughWmNotify) {
         const char* called;
         LRESULT result;
     } rows[] = {
-        {140, NM_CLICK, "notify 140", 11},       {141, NM_CLICK, "", 0},
-        {141, LVN_ITEMCHANGED, "notifyrange 141", 12}, {143, LVN_ITEMCHANGED, "notifyrange 143", 12},
-        {144, NM_RCLICK, "notifyex 144", 13},    {146, NM_RCLICK, "notifyex 146", 13},
+        {140, NM_CLICK, "notify 140", 11},
+        {141, NM_CLICK, "", 0},
+        {141, LVN_ITEMCHANGED, "notifyrange 141", 12},
+        {143, LVN_ITEMCHANGED, "notifyrange 143", 12},
+        {144, NM_RCLICK, "notifyex 144", 13},
+        {146, NM_RCLICK, "notifyex 146", 13},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.id);
@@ -731,8 +791,8 @@ END_MESSAGE_MAP()
 class Reflection : public testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(m_parent.CreateEx(0, nullptr, "parent", WS_POPUP, CRect(0, 0, 90, 90), nullptr,
-                                      0));
+        ASSERT_TRUE(
+            m_parent.CreateEx(0, nullptr, "parent", WS_POPUP, CRect(0, 0, 90, 90), nullptr, 0));
         ASSERT_TRUE(m_control.Create(nullptr, "control", WS_CHILD, CRect(0, 0, 9, 9), &m_parent,
                                      ControlId));
         g_order.clear();
@@ -809,8 +869,7 @@ TEST_F(Reflection, OtherMessagesComeBackThroughTheParentsDefaultHandler) {
     EXPECT_EQ(m_result, 4);
     EXPECT_EQ(Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 7), ControlHandle()),
               "control hscroll 4 7");
-    EXPECT_EQ(Send(WM_VSCROLL, MAKEWPARAM(SB_LINEDOWN, 8), ControlHandle()),
-              "control vscroll 1 8");
+    EXPECT_EQ(Send(WM_VSCROLL, MAKEWPARAM(SB_LINEDOWN, 8), ControlHandle()), "control vscroll 1 8");
     EXPECT_EQ(Send(WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, ControlId), ControlHandle()),
               "control parentnotify 1");
     // The mouse buttons of WM_PARENTNOTIFY come with a point, not with a window.

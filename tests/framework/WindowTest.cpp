@@ -106,8 +106,8 @@ TEST(WindowCreation, EveryFailureEndsTheObjectOnce) {
         {"no such class", [](Window&) {}, "there is no such class", 0},
         {"WM_NCCREATE refuses", [](Window& w) { w.m_ncCreateResult = FALSE; }, nullptr, 0},
         {"WM_CREATE refuses", [](Window& w) { w.m_createResult = -1; }, nullptr, 1},
-        {"WM_CREATE throws",
-         [](Window& w) { w.m_onCreate = [] { AfxThrowUserException(); }; }, nullptr, 1},
+        {"WM_CREATE throws", [](Window& w) { w.m_onCreate = [] { AfxThrowUserException(); }; },
+         nullptr, 1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -118,8 +118,8 @@ TEST(WindowCreation, EveryFailureEndsTheObjectOnce) {
         EXPECT_EQ(window.m_ended, 1);
         EXPECT_EQ(window.m_hWnd, nullptr);
         // The failed creation leaves nothing behind that the next window would be attached to.
-        const HWND other = ::CreateWindow(WC_STATIC, "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                                          nullptr, nullptr);
+        const HWND other =
+            ::CreateWindow(WC_STATIC, "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
         EXPECT_EQ(CWnd::FromHandlePermanent(other), nullptr);
         ::DestroyWindow(other);
     }

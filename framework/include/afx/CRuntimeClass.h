@@ -48,15 +48,15 @@ public:
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 
-#define DECLARE_DYNAMIC(class_name)                 \
-public:                                             \
-    static const CRuntimeClass class##class_name;   \
-    static CRuntimeClass* PASCAL GetThisClass();    \
-    virtual CRuntimeClass* GetRuntimeClass() const; \
-                                                    \
-protected:                                          \
-    static CRuntimeClass* PASCAL _GetBaseClass();   \
-                                                    \
+#define DECLARE_DYNAMIC(class_name)                  \
+public:                                              \
+    static const CRuntimeClass class##class_name;    \
+    static CRuntimeClass* PASCAL GetThisClass();     \
+    CRuntimeClass* GetRuntimeClass() const override; \
+                                                     \
+protected:                                           \
+    static CRuntimeClass* PASCAL _GetBaseClass();    \
+                                                     \
 public:
 
 #define DECLARE_DYNCREATE(class_name) \

@@ -83,5 +83,4 @@ void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minV
 void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
                                 ULONGLONG maxVal);
 void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal);
-void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal,
-                             double maxVal);
+void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal, double maxVal);

@@ -17,19 +17,19 @@ BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite =
 BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
 [[noreturn]] void AFXAPI AfxThrowInvalidArgException();
 
-// Files define THIS_FILE as a variable of their own; until then it is the file name.
+// What assertions name as their file. A source may replace it by a variable of its own.
 #define THIS_FILE __FILE__
 #define DEBUG_NEW new
 
 #ifndef NDEBUG
-#define ASSERT(booleanExpression)                \
-    do {                                         \
-        if (!(booleanExpression)) {              \
-            AfxAssertFailed(__FILE__, __LINE__); \
-        }                                        \
+#define ASSERT(booleanExpression)                 \
+    do {                                          \
+        if (!(booleanExpression)) {               \
+            AfxAssertFailed(THIS_FILE, __LINE__); \
+        }                                         \
     } while (0)
 #define VERIFY(booleanExpression) ASSERT(booleanExpression)
-#define ASSERT_VALID(pObject) AfxAssertValidObject(pObject, __FILE__, __LINE__)
+#define ASSERT_VALID(pObject) AfxAssertValidObject(pObject, THIS_FILE, __LINE__)
 #define DEBUG_ONLY(expression) (expression)
 #define TRACE AfxTrace
 #else

@@ -121,8 +121,7 @@ struct Layout {
             (self->*handler)(ToArgument<Arg>(Part::Get(self, call))...);
             *call.result = 0;
         } else {
-            *call.result =
-                ToResult((self->*handler)(ToArgument<Arg>(Part::Get(self, call))...));
+            *call.result = ToResult((self->*handler)(ToArgument<Arg>(Part::Get(self, call))...));
         }
         return TRUE;
     }

@@ -77,36 +77,37 @@ const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* map, UINT message, UINT code
 
 } // namespace afx
 
-#define DECLARE_MESSAGE_MAP()                                                                      \
-protected:                                                                                         \
-    static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                           \
+#define DECLARE_MESSAGE_MAP()                            \
+protected:                                               \
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap(); \
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
-#define AFX_MESSAGE_MAP_BODY(theClass, baseClass)                                                  \
-    using ThisClass [[maybe_unused]] = theClass;                                                   \
-    using TheBaseClass = baseClass;                                                                \
+#define AFX_MESSAGE_MAP_BODY(theClass, baseClass) \
+    using ThisClass [[maybe_unused]] = theClass;  \
+    using TheBaseClass = baseClass;               \
     static const AFX_MSGMAP_ENTRY messageEntries[] = {
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                     \
-    const AFX_MSGMAP* theClass::GetMessageMap() const {                                            \
-        return GetThisMessageMap();                                                                \
-    }                                                                                              \
-    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() {                                       \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)               \
+    const AFX_MSGMAP* theClass::GetMessageMap() const {      \
+        return GetThisMessageMap();                          \
+    }                                                        \
+    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() { \
         AFX_MESSAGE_MAP_BODY(theClass, baseClass)
 
 /// The map of a class template with one type parameter.
-#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                 \
-    template <typename type_name>                                                                  \
-    const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const {                                 \
-        return GetThisMessageMap();                                                                \
-    }                                                                                              \
-    template <typename type_name>                                                                  \
-    const AFX_MSGMAP* PASCAL theClass<type_name>::GetThisMessageMap() {                            \
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)      \
+    template <typename type_name>                                       \
+    const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const {      \
+        return GetThisMessageMap();                                     \
+    }                                                                   \
+    template <typename type_name>                                       \
+    const AFX_MSGMAP* PASCAL theClass<type_name>::GetThisMessageMap() { \
         AFX_MESSAGE_MAP_BODY(theClass<type_name>, baseClass)
 
-#define END_MESSAGE_MAP()                                                                          \
-        {0, 0, 0, 0, nullptr, nullptr}                                                             \
-    };                                                                                             \
-    static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, messageEntries};       \
-    return &messageMap;                                                                            \
+#define END_MESSAGE_MAP()                                                                    \
+    { 0, 0, 0, 0, nullptr, nullptr }                                                         \
+    }                                                                                        \
+    ;                                                                                        \
+    static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, messageEntries}; \
+    return &messageMap;                                                                      \
     }

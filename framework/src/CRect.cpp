@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "atltypes.h"
 
+#include "Coordinates.h"
+
+using afx::Add;
+using afx::Subtract;
+
 namespace {
-
-// Coordinates come from messages and resources: sums wrap instead of being undefined.
-LONG add(LONG a, LONG b) {
-    return static_cast<LONG>(static_cast<ULONG>(a) + static_cast<ULONG>(b));
-}
-
-LONG subtract(LONG a, LONG b) {
-    return static_cast<LONG>(static_cast<ULONG>(a) - static_cast<ULONG>(b));
-}
 
 LONG middle(LONG a, LONG b) {
     return static_cast<LONG>((LONGLONG{a} + LONGLONG{b}) / 2);
@@ -18,149 +14,24 @@ LONG middle(LONG a, LONG b) {
 
 } // namespace
 
-// A CRect hands out its corners as CPoint objects.
+// The rectangle hands out its corners as CPoint objects.
 static_assert(sizeof(CPoint) == sizeof(POINT) && sizeof(CRect) == sizeof(RECT));
-
-CSize::CSize() noexcept : tagSIZE{0, 0} {}
-CSize::CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
-CSize::CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
-CSize::CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
-CSize::CSize(DWORD dwSize) noexcept
-    : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
-
-BOOL CSize::operator==(SIZE size) const noexcept {
-    return cx == size.cx && cy == size.cy;
-}
-
-BOOL CSize::operator!=(SIZE size) const noexcept {
-    return !(*this == size);
-}
-
-void CSize::operator+=(SIZE size) noexcept {
-    cx = add(cx, size.cx);
-    cy = add(cy, size.cy);
-}
-
-void CSize::operator-=(SIZE size) noexcept {
-    cx = subtract(cx, size.cx);
-    cy = subtract(cy, size.cy);
-}
-
-CSize CSize::operator+(SIZE size) const noexcept {
-    return CSize(add(cx, size.cx), add(cy, size.cy));
-}
-
-CSize CSize::operator-(SIZE size) const noexcept {
-    return CSize(subtract(cx, size.cx), subtract(cy, size.cy));
-}
-
-CSize CSize::operator-() const noexcept {
-    return CSize(subtract(0, cx), subtract(0, cy));
-}
-
-CPoint CSize::operator+(POINT point) const noexcept {
-    return CPoint(point) + *this;
-}
-
-CPoint CSize::operator-(POINT point) const noexcept {
-    return CPoint(point) - *this;
-}
-
-CRect CSize::operator+(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) + *this;
-}
-
-CRect CSize::operator-(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) - *this;
-}
-
-CPoint::CPoint() noexcept : tagPOINT{0, 0} {}
-CPoint::CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
-CPoint::CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
-CPoint::CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
-CPoint::CPoint(LPARAM dwPoint) noexcept
-    : tagPOINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))} {}
-
-void CPoint::Offset(int xOffset, int yOffset) noexcept {
-    x = add(x, xOffset);
-    y = add(y, yOffset);
-}
-
-void CPoint::Offset(POINT point) noexcept {
-    Offset(point.x, point.y);
-}
-
-void CPoint::Offset(SIZE size) noexcept {
-    Offset(size.cx, size.cy);
-}
-
-BOOL CPoint::operator==(POINT point) const noexcept {
-    return x == point.x && y == point.y;
-}
-
-BOOL CPoint::operator!=(POINT point) const noexcept {
-    return !(*this == point);
-}
-
-void CPoint::operator+=(SIZE size) noexcept {
-    Offset(size);
-}
-
-void CPoint::operator-=(SIZE size) noexcept {
-    Offset(-CSize(size));
-}
-
-void CPoint::operator+=(POINT point) noexcept {
-    Offset(point);
-}
-
-void CPoint::operator-=(POINT point) noexcept {
-    Offset(-CPoint(point));
-}
-
-CPoint CPoint::operator+(SIZE size) const noexcept {
-    return CPoint(add(x, size.cx), add(y, size.cy));
-}
-
-CPoint CPoint::operator-(SIZE size) const noexcept {
-    return CPoint(subtract(x, size.cx), subtract(y, size.cy));
-}
-
-CPoint CPoint::operator-() const noexcept {
-    return CPoint(subtract(0, x), subtract(0, y));
-}
-
-CPoint CPoint::operator+(POINT point) const noexcept {
-    return CPoint(add(x, point.x), add(y, point.y));
-}
-
-CSize CPoint::operator-(POINT point) const noexcept {
-    return CSize(subtract(x, point.x), subtract(y, point.y));
-}
-
-CRect CPoint::operator+(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) + *this;
-}
-
-CRect CPoint::operator-(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) - *this;
-}
 
 CRect::CRect() noexcept : tagRECT{0, 0, 0, 0} {}
 CRect::CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
 CRect::CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
 CRect::CRect(LPCRECT lpSrcRect) noexcept : tagRECT(*lpSrcRect) {}
 CRect::CRect(POINT point, SIZE size) noexcept
-    : tagRECT{point.x, point.y, add(point.x, size.cx), add(point.y, size.cy)} {}
+    : tagRECT{point.x, point.y, Add(point.x, size.cx), Add(point.y, size.cy)} {}
 CRect::CRect(POINT topLeft, POINT bottomRight) noexcept
     : tagRECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y} {}
 
 int CRect::Width() const noexcept {
-    return subtract(right, left);
+    return Subtract(right, left);
 }
 
 int CRect::Height() const noexcept {
-    return subtract(bottom, top);
+    return Subtract(bottom, top);
 }
 
 CSize CRect::Size() const noexcept {
@@ -236,10 +107,10 @@ void CRect::InflateRect(LPCRECT lpRect) noexcept {
 }
 
 void CRect::InflateRect(int l, int t, int r, int b) noexcept {
-    left = subtract(left, l);
-    top = subtract(top, t);
-    right = add(right, r);
-    bottom = add(bottom, b);
+    left = Subtract(left, l);
+    top = Subtract(top, t);
+    right = Add(right, r);
+    bottom = Add(bottom, b);
 }
 
 void CRect::DeflateRect(int x, int y) noexcept {
@@ -255,17 +126,17 @@ void CRect::DeflateRect(LPCRECT lpRect) noexcept {
 }
 
 void CRect::DeflateRect(int l, int t, int r, int b) noexcept {
-    left = add(left, l);
-    top = add(top, t);
-    right = subtract(right, r);
-    bottom = subtract(bottom, b);
+    left = Add(left, l);
+    top = Add(top, t);
+    right = Subtract(right, r);
+    bottom = Subtract(bottom, b);
 }
 
 void CRect::OffsetRect(int x, int y) noexcept {
-    left = add(left, x);
-    top = add(top, y);
-    right = add(right, x);
-    bottom = add(bottom, y);
+    left = Add(left, x);
+    top = Add(top, y);
+    right = Add(right, x);
+    bottom = Add(bottom, y);
 }
 
 void CRect::OffsetRect(SIZE size) noexcept {
@@ -277,12 +148,12 @@ void CRect::OffsetRect(POINT point) noexcept {
 }
 
 void CRect::MoveToX(int x) noexcept {
-    right = add(x, Width());
+    right = Add(x, Width());
     left = x;
 }
 
 void CRect::MoveToY(int y) noexcept {
-    bottom = add(y, Height());
+    bottom = Add(y, Height());
     top = y;
 }
 

@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: MIT
+// Comparison, parts, changes and search; the characters themselves stand in CString.cpp.
+#include "afx/CString.h"
+
+#include "MultiByte.h"
+#include "afx/CException.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <mbstring.h>
+
+using afx::Bytes;
+using afx::CharacterSize;
+using afx::EndOfSpan;
+using afx::IsInSet;
+using afx::LengthOf;
+using afx::OrEmpty;
+
+namespace {
+
+constexpr char whitespace[] = " \t\n\v\f\r";
+
+int distance(const char* first, const void* last) {
+    return static_cast<int>(static_cast<const char*>(last) - first);
+}
+
+} // namespace
+
+// Comparison
+
+int CString::Compare(PCXSTR psz) const {
+    return _mbscmp(Bytes(m_characters), Bytes(OrEmpty(psz)));
+}
+
+int CString::CompareNoCase(PCXSTR psz) const {
+    return _mbsicmp(Bytes(m_characters), Bytes(OrEmpty(psz)));
+}
+
+int CString::Collate(PCXSTR psz) const {
+    return _mbscoll(Bytes(m_characters), Bytes(OrEmpty(psz)));
+}
+
+int CString::CollateNoCase(PCXSTR psz) const {
+    return _mbsicoll(Bytes(m_characters), Bytes(OrEmpty(psz)));
+}
+
+// Parts
+
+CString CString::Mid(int iFirst) const {
+    return Mid(iFirst, INT_MAX);
+}
+
+CString CString::Mid(int iFirst, int nCount) const {
+    iFirst = (std::min)((std::max)(iFirst, 0), GetLength());
+    nCount = (std::min)((std::max)(nCount, 0), GetLength() - iFirst);
+    return nCount == GetLength() ? *this : CString(m_characters + iFirst, nCount);
+}
+
+CString CString::Left(int nCount) const {
+    return Mid(0, nCount);
+}
+
+CString CString::Right(int nCount) const {
+    nCount = (std::min)((std::max)(nCount, 0), GetLength());
+    return Mid(GetLength() - nCount, nCount);
+}
+
+CString CString::SpanIncluding(PCXSTR pszCharSet) const {
+    return Left(EndOfSpan(m_characters, 0, GetLength(), OrEmpty(pszCharSet), true));
+}
+
+CString CString::SpanExcluding(PCXSTR pszCharSet) const {
+    return Left(EndOfSpan(m_characters, 0, GetLength(), OrEmpty(pszCharSet), false));
+}
+
+CString CString::Tokenize(PCXSTR pszTokens, int& iStart) const {
+    if (iStart < 0) {
+        AfxThrowInvalidArgException();
+    }
+    const char* const separators = OrEmpty(pszTokens);
+    const int first = EndOfSpan(m_characters, iStart, GetLength(), separators, true);
+    if (first < GetLength()) {
+        const int end = EndOfSpan(m_characters, first, GetLength(), separators, false);
+        iStart = end + 1;
+        return Mid(first, end - first);
+    }
+    iStart = -1;
+    return CString();
+}
+
+// Changes
+
+void CString::Append(PCXSTR pszSrc) {
+    Append(pszSrc, LengthOf(pszSrc));
+}
+
+void CString::Append(PCXSTR pszSrc, int nLength) {
+    if (nLength < 0 || (pszSrc == nullptr && nLength > 0)) {
+        AfxThrowInvalidArgException();
+    }
+    if (nLength > 0) {
+        replaceRange(GetLength(), 0, pszSrc, nLength);
+    }
+}
+
+void CString::Append(const CString& strSrc) {
+    Append(strSrc.m_characters, strSrc.GetLength());
+}
+
+void CString::AppendChar(XCHAR ch) {
+    Append(&ch, 1);
+}
+
+CString& CString::operator+=(const CString& str) {
+    Append(str);
+    return *this;
+}
+
+CString& CString::operator+=(PCXSTR pszSrc) {
+    Append(pszSrc);
+    return *this;
+}
+
+CString& CString::operator+=(PCYSTR pszSrc) {
+    return *this += CString(pszSrc);
+}
+
+CString& CString::operator+=(char ch) {
+    AppendChar(ch);
+    return *this;
+}
+
+CString& CString::operator+=(unsigned char ch) {
+    AppendChar(static_cast<char>(ch));
+    return *this;
+}
+
+CString& CString::operator+=(wchar_t ch) {
+    return *this += CString(ch);
+}
+
+CString& CString::MakeUpper() {
+    ::CharUpperBuffA(writable(0), static_cast<DWORD>(GetLength()));
+    return *this;
+}
+
+CString& CString::MakeLower() {
+    ::CharLowerBuffA(writable(0), static_cast<DWORD>(GetLength()));
+    return *this;
+}
+
+CString& CString::MakeReverse() {
+    const CString source(*this);
+    const int length = GetLength();
+    char* const buffer = writable(length);
+    for (int index = 0; index < length;) {
+        const int size = CharacterSize(source, index, length);
+        std::memcpy(buffer + length - index - size, source.m_characters + index,
+                    static_cast<size_t>(size));
+        index += size;
+    }
+    return *this;
+}
+
+CString& CString::TrimLeft() {
+    return TrimLeft(whitespace);
+}
+
+CString& CString::TrimLeft(XCHAR chTarget) {
+    const char targets[] = {chTarget, '\0'};
+    return TrimLeft(targets);
+}
+
+CString& CString::TrimLeft(PCXSTR pszTargets) {
+    Delete(0, EndOfSpan(m_characters, 0, GetLength(), OrEmpty(pszTargets), true));
+    return *this;
+}
+
+CString& CString::TrimRight() {
+    return TrimRight(whitespace);
+}
+
+CString& CString::TrimRight(XCHAR chTarget) {
+    const char targets[] = {chTarget, '\0'};
+    return TrimRight(targets);
+}
+
+CString& CString::TrimRight(PCXSTR pszTargets) {
+    // From the front: only so is it known which byte starts a character.
+    const char* const targets = OrEmpty(pszTargets);
+    const int length = GetLength();
+    int end = 0;
+    for (int index = 0; index < length;) {
+        const int size = CharacterSize(m_characters, index, length);
+        if (!IsInSet(m_characters + index, size, targets)) {
+            end = index + size;
+        }
+        index += size;
+    }
+    Truncate(end);
+    return *this;
+}
+
+CString& CString::Trim() {
+    return TrimRight().TrimLeft();
+}
+
+CString& CString::Trim(XCHAR chTarget) {
+    return TrimRight(chTarget).TrimLeft(chTarget);
+}
+
+CString& CString::Trim(PCXSTR pszTargets) {
+    return TrimRight(pszTargets).TrimLeft(pszTargets);
+}
+
+int CString::Replace(XCHAR chOld, XCHAR chNew) {
+    int replaced = 0;
+    if (chOld != chNew) {
+        for (int found = Find(chOld); found >= 0; found = Find(chOld, found + 1)) {
+            SetAt(found, chNew);
+            ++replaced;
+        }
+    }
+    return replaced;
+}
+
+int CString::Replace(PCXSTR pszOld, PCXSTR pszNew) {
+    const int oldLength = LengthOf(pszOld);
+    int found = oldLength > 0 ? Find(pszOld) : -1;
+    if (found < 0) {
+        return 0;
+    }
+    const int newLength = LengthOf(pszNew);
+    CString result;
+    int copied = 0;
+    int replaced = 0;
+    for (; found >= 0; found = Find(pszOld, copied)) {
+        result.Append(m_characters + copied, found - copied);
+        result.Append(pszNew, newLength);
+        copied = found + oldLength;
+        ++replaced;
+    }
+    result.Append(m_characters + copied, GetLength() - copied);
+    *this = result;
+    return replaced;
+}
+
+int CString::Remove(XCHAR chRemove) {
+    const int length = GetLength();
+    if (Find(chRemove) < 0) {
+        return 0;
+    }
+    char* const buffer = writable(length);
+    int kept = 0;
+    for (int index = 0; index < length;) {
+        const int size = CharacterSize(buffer, index, length);
+        if (size == 2 || buffer[index] != chRemove) {
+            std::memmove(buffer + kept, buffer + index, static_cast<size_t>(size));
+            kept += size;
+        }
+        index += size;
+    }
+    setLength(kept);
+    return length - kept;
+}
+
+int CString::Insert(int iIndex, XCHAR ch) {
+    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
+    replaceRange(index, 0, &ch, 1);
+    return GetLength();
+}
+
+int CString::Insert(int iIndex, PCXSTR psz) {
+    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
+    const int length = LengthOf(psz);
+    if (length > 0) {
+        replaceRange(index, 0, psz, length);
+    }
+    return GetLength();
+}
+
+int CString::Delete(int iIndex, int nCount) {
+    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
+    const int count = (std::min)((std::max)(nCount, 0), GetLength() - index);
+    if (count > 0) {
+        replaceRange(index, count, nullptr, 0);
+    }
+    return GetLength();
+}
+
+void CString::AnsiToOem() {
+    char* const buffer = writable(0);
+    ::CharToOemBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
+}
+
+void CString::OemToAnsi() {
+    char* const buffer = writable(0);
+    ::OemToCharBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
+}
+
+// Search
+
+int CString::Find(XCHAR ch, int iStart) const noexcept {
+    if (iStart < 0 || iStart >= GetLength()) {
+        return -1;
+    }
+    const void* const found = _mbschr(Bytes(m_characters + iStart), static_cast<BYTE>(ch));
+    const int index = found != nullptr ? distance(m_characters, found) : GetLength();
+    return index < GetLength() ? index : -1; // the terminating null is no part of the string
+}
+
+int CString::Find(PCXSTR pszSub, int iStart) const noexcept {
+    if (pszSub == nullptr || iStart < 0 || iStart > GetLength()) {
+        return -1;
+    }
+    const void* const found = _mbsstr(Bytes(m_characters + iStart), Bytes(pszSub));
+    return found != nullptr ? distance(m_characters, found) : -1;
+}
+
+int CString::FindOneOf(PCXSTR pszCharSet) const noexcept {
+    const void* const found = _mbspbrk(Bytes(m_characters), Bytes(OrEmpty(pszCharSet)));
+    return found != nullptr ? distance(m_characters, found) : -1;
+}
+
+int CString::ReverseFind(XCHAR ch) const noexcept {
+    if (ch == '\0') {
+        return -1;
+    }
+    const void* const found = _mbsrchr(Bytes(m_characters), static_cast<BYTE>(ch));
+    return found != nullptr ? distance(m_characters, found) : -1;
+}
