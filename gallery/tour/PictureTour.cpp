@@ -71,8 +71,10 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     ChooseScene(0);
     TourButtons(*this, isDefault ? "" : "-" + scheme);
 
-    // The whole window, with something hot in it.
+    // The whole window, with something hot in it.  Drawn afresh: Wine's check box may keep its focus
+    // mark after the focus has gone.
     ChooseScene(0);
+    ::RedrawWindow(m_gallery, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     automation::MoveMouseOver(::GetDlgItem(Page(), IDC_SUBJECT));
     const automation::Picture window = automation::WaitUntilSteady(m_gallery);
     if (isDefault)
