@@ -29,7 +29,9 @@ endif()
 add_library(tintkit_windows INTERFACE)
 target_compile_definitions(tintkit_windows INTERFACE
     _MBCS STRICT NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
-if(MINGW)
+if(MSVC)
+    set(CMAKE_MFC_FLAG 2) # the shared MFC
+elseif(MINGW)
     # Programs that start without the compiler's DLLs beside them.
     target_link_options(tintkit_windows INTERFACE -static -static-libgcc -static-libstdc++)
 endif()

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // fuzz_seeds DIR: writes the seed corpus, one folder a fuzz target.
+#include "fuzz/JpegSeeds.h"
 #include "tests/image/BmpBuilder.h"
+#include "tests/image/PngBuilder.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -59,6 +61,45 @@ const NamedBitmap kBitmaps[] = {
     {"rle4", Make(4, 9, 3, 2, {3, 0x10, 0, 5, 0x10, 0x11, 0x10, 0, 0, 0, 0, 2, 1, 1, 9, 0x11})},
 };
 
+pngtest::Png MakePng(pngtest::ColorType type, uint8_t bits, bool interlaced,
+                     std::initializer_list<const char*> chunks = {}) {
+    pngtest::Png png;
+    png.colorType = type;
+    png.bitDepth = bits;
+    png.interlaced = interlaced;
+    png.width = 5;
+    png.height = 3;
+    for (size_t i = 0; i < (png.width * pngtest::PixelBits(png) + 7) / 8 * png.height; ++i)
+        png.rows.push_back(static_cast<uint8_t>(i * 37));
+    for (const std::string chunk : chunks) {
+        const size_t sample = type == pngtest::kGrey || type == pngtest::kGreyAlpha ? 2 : 6;
+        const size_t bytes = chunk == "PLTE"             ? 12
+                             : chunk == "pHYs"           ? 9
+                             : type == pngtest::kPalette ? 1
+                                                         : sample;
+        png.chunks.emplace_back(chunk, chunk == "gAMA" ? Bytes{0, 0, 0xB1, 0x8F} : Bytes(bytes));
+    }
+    return png;
+}
+
+const struct {
+    const char* name;
+    pngtest::Png png;
+} kPngs[] = {
+    {"grey1", MakePng(pngtest::kGrey, 1, true, {"tRNS"})},
+    {"grey2", MakePng(pngtest::kGrey, 2, true, {"tRNS", "bKGD"})},
+    {"grey8", MakePng(pngtest::kGrey, 8, false, {"pHYs"})},
+    {"grey16", MakePng(pngtest::kGrey, 16, true, {"tRNS"})},
+    {"greyalpha8", MakePng(pngtest::kGreyAlpha, 8, false, {"gAMA", "bKGD"})},
+    {"greyalpha16", MakePng(pngtest::kGreyAlpha, 16, true, {"bKGD"})},
+    {"palette2", MakePng(pngtest::kPalette, 2, true, {"PLTE", "tRNS"})},
+    {"palette8", MakePng(pngtest::kPalette, 8, false, {"PLTE", "tRNS", "bKGD"})},
+    {"rgb8", MakePng(pngtest::kRgb, 8, false, {"tRNS"})},
+    {"rgb16", MakePng(pngtest::kRgb, 16, true, {"gAMA", "tRNS", "bKGD"})},
+    {"rgba8", MakePng(pngtest::kRgbAlpha, 8, true, {"bKGD"})},
+    {"rgba16", MakePng(pngtest::kRgbAlpha, 16, false)},
+};
+
 /// Operations of MemStreamFuzzer: seeks, reads, writes and single bytes, on a block of the stream's
 /// own (even first byte) and on a caller's.
 const Bytes kOperations[] = {
@@ -93,6 +134,12 @@ int main(int argc, char** argv) {
         written = Write(folder / "packed_dib", name + ".dib", PackedDib(seed.bitmap)) && written;
     }
     written = Write(folder / "bmp", "bare.bmp", PackedDib(kBitmaps[0].bitmap)) && written;
+    for (const auto& seed : kPngs)
+        written =
+            Write(folder / "png", seed.name + std::string(".png"), PngFile(seed.png)) && written;
+    for (const Seed& seed : JpegSeeds())
+        written =
+            !seed.data.empty() && Write(folder / seed.folder, seed.name, seed.data) && written;
     int number = 0;
     for (const Bytes& operations : kOperations)
         written = Write(folder / "mem_stream", std::to_string(number++), operations) && written;

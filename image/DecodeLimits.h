@@ -18,11 +18,13 @@ namespace tint {
 /// A refusal names the limit in the image's last-error text.  Whatever the limits say, an image's
 /// block never exceeds 2 GiB - 1.
 struct DecodeLimits {
-    uint64_t maxPixels = 500'000'000;             ///< width x height of one picture
-    uint64_t maxBlockBytes = 1536u * 1024 * 1024; ///< header, palette and pixel rows of one picture
-    uint32_t maxJpegScans = 100;                  ///< scans of one progressive JPEG
-    uint32_t maxExifDepth = 8;                    ///< EXIF directories inside one another
-    uint32_t maxExifDirectories = 64;             ///< EXIF directories of one file
+    uint64_t maxPixels = 500'000'000; ///< width x height of one picture
+    /// Header, palette and pixel rows of one picture; what a progressive JPEG takes while it is put
+    /// together may be twice as much.  It bounds the working memory of a resampling, too.
+    uint64_t maxBlockBytes = 1536u * 1024 * 1024;
+    uint32_t maxJpegScans = 100;      ///< scans of one progressive JPEG
+    uint32_t maxExifDepth = 8;        ///< EXIF directories inside one another
+    uint32_t maxExifDirectories = 64; ///< EXIF directories of one file
 };
 
 /// The limits in force.

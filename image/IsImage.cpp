@@ -2,6 +2,7 @@
 #include "image/IsImage.h"
 
 #include "image/DibLayout.h"
+#include "image/LargePages.h"
 #include "image/Resolution.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ void IsImage::Startup(uint32_t type) {
     info = {};
     info.type = type;
     info.jpegQuality = 90;
+    info.jpegScale = 1;
     info.transparentIndex = -1;
     info.enabled = 1;
     info.xDpi = kDefaultDpi;
@@ -59,6 +61,7 @@ uint8_t* IsImage::CreateImage(uint32_t width, uint32_t height, uint32_t bitCount
         SetErrorText("out of memory");
         return nullptr;
     }
+    PreferLargePages(dib, static_cast<size_t>(layout.blockBytes));
     header.biSize = sizeof(header);
     header.biWidth = static_cast<int32_t>(width);
     header.biHeight = static_cast<int32_t>(height);
@@ -88,6 +91,7 @@ bool IsImage::DestroyImage() {
     header = empty;
     info.effectiveWidth = 0;
     info.bits = nullptr;
+    info.orientation = 0;
     return true;
 }
 
@@ -151,6 +155,7 @@ void IsImage::CopyInfo(const IsImage& source) {
     // What describes the source's own block would leave an empty image pointing into it.
     info.effectiveWidth = 0;
     info.bits = nullptr;
+    info.orientation = 0;
     info.ghostOf = nullptr;
 }
 

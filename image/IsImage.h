@@ -22,7 +22,9 @@ struct ImageInfo {
     int32_t transparentIndex; ///< palette index shown as transparent, -1 for none
     RGBQUAD backgroundColor;  ///< transparent colour of a 24-bit image with a transparent index
     uint8_t jpegQuality;
-    uint32_t xDpi; ///< dots per inch
+    uint8_t jpegScale;   ///< JPEG pictures are decoded at 1/jpegScale of their size; 1, 2, 4 or 8
+    uint8_t orientation; ///< how the picture is to be turned, 1 to 8; 0 when not stated
+    uint32_t xDpi;       ///< dots per inch
     uint32_t yDpi;
     uint8_t enabled;          ///< 1 unless switched off
     uint32_t formatValues[4]; ///< one value per format code, for the codecs
@@ -122,6 +124,54 @@ public:
     void CopyInfo(const IsImage& source);
     /// Reverses the order of the rows in place.  @return false for an empty image
     bool FlipRows();
+    /// Turns and mirrors the picture as its orientation (Info) asks, which is 1 afterwards.
+    ///
+    /// The orientation says where the stored top row and left column belong: 1 top and left, 2 top
+    /// and right, 3 bottom and right, 4 bottom and left, 5 left and top, 6 right and top, 7 right and
+    /// bottom, 8 left and bottom.  From 5 on width and height change places.  0 changes nothing.
+    /// Loading never turns a picture.
+    /// @return false, with the image as it was, for an empty image or a ghost, or when memory is out
+    bool ApplyOrientation();
+    /// Changes the size in pixels, with the depth, palette and settings kept.
+    ///
+    /// Colours between pixels are found by `interpolation`.  Unless averaging is disabled, a picture
+    /// that shrinks takes the mean over the area that each new pixel covers instead, which keeps the
+    /// mean brightness; an axis that grows meanwhile is interpolated.  Pixels of an image with a
+    /// palette become the entry nearest to their colour.
+    /// @param newWidth       pixels, at least 1
+    /// @param interpolation  a tint::Interpolation (ResampleKernels.h)
+    /// @param overflow       what lies beyond the edges, a tint::Overflow (Resample.h)
+    /// @param target         receives the result; null replaces this image's own content
+    /// @return false, with LastErrorText set and both images as they were, for an empty image, a size
+    ///         below 1 or refused (tint::LayOutDib), a ghost that would receive the result, or when
+    ///         memory is out
+    bool Resample(int32_t newWidth, int32_t newHeight, int32_t interpolation, int32_t overflow,
+                  IsImage* target = nullptr, bool disableAveraging = false);
+
+#ifdef _WIN32
+    // Drawing; what the system's calls return is not looked at.
+
+    /// Draws the whole picture, scaled, into a rectangle of a device context, in its logical units.
+    ///
+    /// Leaves the stretch mode of `dc` at COLORONCOLOR.  With a transparent index the pixels of that
+    /// palette entry, or of the background colour in a 24-bit image, are left out, nothing is done
+    /// when the rectangle is not visible, and the background colour of `dc` is white afterwards.
+    /// @param cx  negative for the picture's own width
+    /// @param cy  negative for the picture's own height
+    /// @return false, with nothing drawn, for an empty or disabled image, a null `dc`, and when `cx`
+    ///         or `cy` is 0
+    bool DrawImage(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy) const;
+    /// DrawImage into `rect`.
+    bool DrawImageInRect(HDC dc, const RECT& rect) const;
+    /// Draws the whole picture, scaled, with a raster operation and regardless of transparency.
+    /// @return false for an empty image and a null `dc`
+    bool StretchImage(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy, uint32_t rop) const;
+    /// Fills the rectangle of the picture's size at the origin of `dc` with the picture as a brush
+    /// pattern, which is aligned to the brush origin of `dc`.
+    /// @param area  not used
+    /// @return false for an empty or disabled image and a null `dc`
+    bool TileImage(HDC dc, const RECT& area) const;
+#endif
 
     // Geometry
 
@@ -205,6 +255,10 @@ public:
     void SetJpegQuality(uint8_t quality) {
         info.jpegQuality = quality;
     }
+    /// @param scale  JPEG pictures are decoded at 1/scale of their size: 1, 2, 4 or 8
+    void SetJpegScale(uint8_t scale) {
+        info.jpegScale = scale;
+    }
     void Enable(bool enable) {
         info.enabled = enable ? 1 : 0;
     }
@@ -228,8 +282,12 @@ private:
     template <class Codec>
     bool DecodeWith(bool (Codec::*decode)(CxFile*), const char* failure, CxFile* stream);
     bool ReadPackedDib(const uint8_t* data, size_t size);
+    bool TransposePixels();
     void LoadPath(const char* path);
     void MakePlaceholder();
+#ifdef _WIN32
+    void DrawTransparent(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy) const;
+#endif
 
     char lastError[256];
 };

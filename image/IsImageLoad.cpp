@@ -4,6 +4,8 @@
 #include "image/CxIOFile.h"
 #include "image/CxMemFile.h"
 #include "image/ImageBMP.h"
+#include "image/ImageJPG.h"
+#include "image/ImagePNG.h"
 #include "image/IsImage.h"
 
 #include <memory>
@@ -74,9 +76,10 @@ bool IsImage::DecodeByType(uint32_t type, CxFile* stream) {
     case kFormatBmp:
         return DecodeWith(&CxImageBMP::DecodeBmp, "BMP data are damaged or not supported", stream);
     case kFormatJpeg:
+        return DecodeWith(&CxImageJPG::DecodeJpeg, "JPEG data are damaged or not supported",
+                          stream);
     case kFormatPng:
-        SetErrorText("no decoder for this image format");
-        return false;
+        return DecodeWith(&CxImagePNG::DecodePng, "PNG data are damaged or not supported", stream);
     default:
         SetErrorText("unknown image format");
         return false;

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
 // imageinfo: what the image layer sees in a file, as one JSON object a line.
+#include "image/CxIOFile.h"
+#include "image/CxMemFile.h"
 #include "image/Formats.h"
 #include "image/IsImage.h"
+#include "imageinfo/ExifJson.h"
 #include "imageinfo/Json.h"
+#include "imageinfo/ResampleOption.h"
 
 #include <cstdio>
 #include <cstring>
@@ -13,12 +17,16 @@
 
 namespace {
 
-const char kUsage[] = "usage: imageinfo [--memory] [--ppm OUT] FILE...\n"
-                      "  --memory   load from a memory buffer instead of the path\n"
-                      "  --ppm OUT  write the decoded picture of the one FILE as a binary PPM\n";
+const char kUsage[] =
+    "usage: imageinfo [--memory] [--resample WxH[,INTERPOLATION[,OVERFLOW]]] [--ppm OUT] FILE...\n"
+    "  --memory    load from a memory buffer instead of the path\n"
+    "  --resample  change the size of each decoded picture, by interpolation method 0 to 15 (5)\n"
+    "              and overflow method 0 to 5 (5); what is printed stays that of the file\n"
+    "  --ppm OUT   write the picture of the one FILE as a binary PPM\n";
 
 struct Options {
     bool memory = false;
+    ResampleOption resample;
     std::string ppm;
     std::vector<std::string> files;
 };
@@ -35,6 +43,11 @@ bool ParseOptions(int argc, char** argv, Options& options) {
             options.memory = true;
         } else if (argument == "--ppm" && i + 1 < argc) {
             options.ppm = argv[++i];
+        } else if (argument == "--resample" && i + 1 < argc) {
+            if (!ParseResample(argv[++i], options.resample)) {
+                fprintf(stderr, "imageinfo: --resample cannot be %s\n", argv[i]);
+                return false;
+            }
         } else if (argument.compare(0, 2, "--") == 0) {
             fprintf(stderr, "imageinfo: unknown or incomplete option %s\n", argv[i]);
             return false;
@@ -65,7 +78,8 @@ tint::ImageFormat FormatOf(const std::string& path) {
     return tint::DetectFileFormat(head, path.c_str());
 }
 
-void PrintInfo(const std::string& path, tint::ImageFormat format, const IsImage& image) {
+void PrintInfo(const std::string& path, tint::ImageFormat format, const IsImage& image,
+               const std::string& exif) {
     const bool ok = *image.LastErrorText() == '\0';
     // A placeholder is nothing of the file's.
     const IsImage nothing;
@@ -80,8 +94,23 @@ void PrintInfo(const std::string& path, tint::ImageFormat format, const IsImage&
     printf("\"xDpi\": %u, \"yDpi\": %u, \"transparentIndex\": %d, ",
            static_cast<unsigned>(info.xDpi), static_cast<unsigned>(info.yDpi),
            static_cast<int>(info.transparentIndex));
-    printf("\"backgroundColor\": \"#%02x%02x%02x\"}\n", info.backgroundColor.rgbRed,
+    printf("\"backgroundColor\": \"#%02x%02x%02x\"", info.backgroundColor.rgbRed,
            info.backgroundColor.rgbGreen, info.backgroundColor.rgbBlue);
+    printf("%s%s}\n", exif.empty() ? "" : ", \"exif\": ", exif.c_str());
+}
+
+/// What a JPEG file says beside its picture, as a JSON object.
+std::string ExifOf(const std::string& path, std::vector<uint8_t>& data, bool memory) {
+    CxImageJPG image;
+    if (memory) {
+        CxMemFile stream(data.data(), static_cast<uint32_t>(data.size()));
+        image.ReadExif(&stream);
+    } else {
+        CxIOFile stream;
+        if (stream.Open(path.c_str(), "rb"))
+            image.ReadExif(&stream);
+    }
+    return ExifJson(image);
 }
 
 /// Writes the picture top row first, 3 bytes a pixel.
@@ -106,18 +135,27 @@ bool WritePpm(const std::string& path, const IsImage& image) {
     return fflush(file.get()) == 0;
 }
 
-/// Loads and reports one file.  @return whether it was decoded, and written where that was asked
+/// Loads and reports one file.  @return whether it was decoded, and resampled and written where
+/// that was asked
 bool Report(const std::string& path, const Options& options) {
     std::vector<uint8_t> data;
     if (options.memory)
         data = ReadWhole(path);
-    const IsImage image = options.memory ? IsImage(data.data(), static_cast<uint32_t>(data.size()))
-                                         : IsImage(path.c_str());
+    IsImage image = options.memory ? IsImage(data.data(), static_cast<uint32_t>(data.size()))
+                                   : IsImage(path.c_str());
     const tint::ImageFormat format =
         options.memory ? tint::DetectFormat(data.data(), data.size()) : FormatOf(path);
-    PrintInfo(path, format, image);
+    PrintInfo(path, format, image,
+              format == tint::kFormatJpeg ? ExifOf(path, data, options.memory) : std::string());
     if (*image.LastErrorText())
         return false;
+    const ResampleOption& size = options.resample;
+    if (size.width > 0 &&
+        !image.Resample(size.width, size.height, size.interpolation, size.overflow)) {
+        fprintf(stderr, "imageinfo: %s cannot be resampled: %s\n", path.c_str(),
+                image.LastErrorText());
+        return false;
+    }
     if (options.ppm.empty() || WritePpm(options.ppm, image))
         return true;
     fprintf(stderr, "imageinfo: %s cannot be written\n", options.ppm.c_str());

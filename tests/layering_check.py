@@ -3,8 +3,8 @@
 """Checks that the folders depend on each other only as the architecture allows.
 
 For every C++ source: the folders named by its #include "..." lines must be allowed for the folder
-the source is in, toolkit folders include the framework by its umbrella headers only, and toolkit
-and gallery contain no conditional on which framework they are compiled against.
+the source is in, the framework is included by its umbrella headers only, and what uses it contains
+no conditional on which framework it is compiled against.
 """
 
 import re
@@ -29,7 +29,6 @@ ALLOWED = {
 EVERYTHING = {"gallery", "benchmarks", "fuzz", "tests"}
 # The framework's umbrella headers are MFC's, so these build against either.
 USES_FRAMEWORK = {"draw", "controls", "menus", "decorations", "automation", "gallery", "benchmarks"}
-TOOLKIT = {"draw", "controls", "menus", "decorations", "image", "diag", "gallery", "automation"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 UMBRELLA = re.compile(r"^(afx\w*|atl\w*)\.h$")
@@ -65,8 +64,8 @@ def faults_in(path, folder):
             if fault:
                 yield number, fault
         conditional = CONDITIONAL.match(line)
-        if conditional and folder in TOOLKIT and FRAMEWORK_MACRO.search(conditional.group(1)):
-            yield number, "code that differs by framework or compiler belongs in framework/"
+        if conditional and folder in USES_FRAMEWORK and FRAMEWORK_MACRO.search(conditional.group(1)):
+            yield number, "what differs by framework or compiler belongs in framework/"
 
 
 def main():

@@ -53,6 +53,39 @@ class ImageInfo(unittest.TestCase):
         self.assertEqual(ppm.read_bytes(), b'P6\n1 2\n255\n' + bytes([6, 5, 4, 3, 2, 1]))
         self.assertEqual(run('--ppm', self.folder / 'no' / 'out.ppm', SEEDS / 'depth24.bmp')[0], 1)
 
+    def test_resamples_before_it_writes(self):
+        ppm = self.folder / 'out.ppm'
+        picture = SEEDS / 'depth24.bmp'
+        status, lines = run('--resample', '2x4,0', '--ppm', ppm, picture)
+        self.assertEqual((status, lines[0]['width'], lines[0]['height']), (0, 1, 2))
+        self.assertEqual(ppm.read_bytes(),
+                         b'P6\n2 4\n255\n' + bytes([6, 5, 4] * 4 + [3, 2, 1] * 4))
+        self.assertEqual(run('--resample', '1x1,5,1', '--ppm', ppm, picture)[0], 0)
+        self.assertEqual(ppm.read_bytes(), b'P6\n1 1\n255\n' + bytes([5, 4, 3]))
+        self.assertEqual(run('--resample', '2000000000x2', picture)[0], 1)
+        for size in ('', '5', '5x', 'x5', '0x5', '5x-1', '5x5,', '5x5,16', '5x5,1,6', '5x5,1,1,',
+                     '9999999999x1', '5x5 '):
+            self.assertEqual(run('--resample', size, picture), (1, []), size)
+
+    def test_prints_what_a_jpeg_says_beside_its_picture(self):
+        seed = (SEEDS.parent / 'jpeg' / 'color').read_bytes()[1:]  # behind the fuzzer's options
+        picture = self.folder / 'picture.jpg'
+        picture.write_bytes(seed)
+        status, (line,) = run(picture)
+        self.assertEqual((status, line['format'], line['width']), (0, 'jpeg', 19))
+        exif = line['exif']
+        self.assertEqual((exif['isExif'], exif['cameraMake'], exif['orientation'], exif['comments'],
+                          exif['width'], exif['process']), (True, 'Maker', 6, 'text\n', 19, 0xC0))
+        self.assertAlmostEqual(exif['exposureTime'], 0.004)
+        self.assertEqual(exif['thumbnailSize'], 4)
+        self.assertEqual(seed[exif['thumbnailData'] - 8:][:2], b'II')
+        self.assertEqual(len(exif), 32)
+
+        picture.write_bytes(seed[:20])
+        status, (line,) = run(picture)
+        self.assertEqual((status, line['ok'], line['exif']['isExif']), (1, False, False))
+        self.assertIsNone(line['exif']['thumbnailData'])
+
     def test_refuses_wrong_arguments(self):
         picture = SEEDS / 'depth24.bmp'
         for arguments in ([], ['--unknown', picture], [picture, '--ppm'],

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+//
+// Painting on device contexts.
+#include "image/IsImage.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr COLORREF kUntouched = RGB(255, 0, 255);
+
+/// A device context on 32-bit pixels, filled with a colour that no picture here has.
+class Surface {
+public:
+    Surface(int width, int height) : m_width(width), m_height(height) {
+        BITMAPINFO bitmap = {};
+        bitmap.bmiHeader = {sizeof(BITMAPINFOHEADER), width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = CreateDIBSection(nullptr, &bitmap, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_previous = SelectObject(m_dc, m_bitmap);
+        const HBRUSH brush = CreateSolidBrush(kUntouched);
+        const RECT all = {0, 0, width, height};
+        FillRect(m_dc, &all, brush);
+        DeleteObject(brush);
+    }
+    ~Surface() {
+        SelectObject(m_dc, m_previous);
+        DeleteObject(m_bitmap);
+        DeleteDC(m_dc);
+    }
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
+
+    operator HDC() const { return m_dc; }
+
+    /// One letter a pixel, rows separated by "/": the letter of the colour, "." where untouched.
+    std::string Letters() const {
+        std::string text;
+        for (int y = 0; y < m_height; ++y) {
+            text += y > 0 ? "/" : "";
+            for (int x = 0; x < m_width; ++x)
+                text += LetterOf(GetPixel(m_dc, x, y));
+        }
+        return text;
+    }
+
+private:
+    static char LetterOf(COLORREF color) {
+        const struct {
+            COLORREF color;
+            char letter;
+        } letters[] = {{kUntouched, '.'},      {RGB(0, 0, 0), 'k'},   {RGB(255, 0, 0), 'r'},
+                       {RGB(0, 255, 0), 'g'},  {RGB(0, 0, 255), 'b'}, {RGB(255, 255, 255), 'w'},
+                       {RGB(0, 255, 255), 'c'}};
+        for (const auto& known : letters) {
+            if (known.color == color)
+                return known.letter;
+        }
+        return '?';
+    }
+
+    int m_width;
+    int m_height;
+    HDC m_dc = CreateCompatibleDC(nullptr);
+    HBITMAP m_bitmap;
+    HGDIOBJ m_previous;
+};
+
+const RGBQUAD kRed = {0, 0, 255, 0};
+const RGBQUAD kGreen = {0, 255, 0, 0};
+const RGBQUAD kBlue = {255, 0, 0, 0};
+const RGBQUAD kBlack = {};
+
+/// "rg/bk": each pixel of its own colour, so that a turned or shifted picture shows.
+IsImage FourColors(uint32_t bitCount) {
+    IsImage image;
+    image.CreateImage(2, 2, bitCount);
+    const RGBQUAD colors[] = {kBlue, kBlack, kRed, kGreen}; // from the lower left on
+    for (uint32_t i = 0; i < 4; ++i) {
+        image.SetPaletteColor(i, colors[i]);
+        image.SetPixelColor(i % 2, i / 2, colors[i]);
+    }
+    return image;
+}
+
+TEST(DrawImage, PutsThePictureIntoTheRectangle) {
+    const struct {
+        int32_t x, y, cx, cy;
+        const char* letters;
+    } cases[] = {
+        {0, 0, 2, 2, "rg../bk../..../...."}, {1, 1, -1, -1, "..../.rg./.bk./...."},
+        {0, 0, 4, 4, "rrgg/rrgg/bbkk/bbkk"}, {0, 1, 4, -5, "..../rrgg/bbkk/...."},
+        {3, 3, 2, 2, "..../..../..../...r"}, {-1, -1, 2, 2, "k.../..../..../...."},
+    };
+    for (const uint32_t bitCount : {4u, 8u, 24u}) {
+        const IsImage image = FourColors(bitCount);
+        for (const auto& c : cases) {
+            const Surface surface(4, 4);
+            EXPECT_TRUE(image.DrawImage(surface, c.x, c.y, c.cx, c.cy));
+            EXPECT_EQ(surface.Letters(), c.letters) << bitCount << " bits";
+            EXPECT_EQ(GetStretchBltMode(surface), COLORONCOLOR);
+        }
+    }
+    const Surface surface(4, 4);
+    EXPECT_TRUE(FourColors(24).DrawImageInRect(surface, RECT{1, 0, 3, 4}));
+    EXPECT_EQ(surface.Letters(), ".rg./.rg./.bk./.bk.");
+}
+
+TEST(DrawImage, LeavesOutTheTransparentColor) {
+    const struct {
+        uint32_t bitCount;
+        int32_t index;
+        RGBQUAD background; ///< counts in 24-bit images
+        const char* natural;
+        const char* doubled;
+    } cases[] = {
+        {8, 2, kGreen, ".g../bk../..../....", "..gg/..gg/bbkk/bbkk"},
+        {4, 1, kGreen, "rg../b.../..../....", "rrgg/rrgg/bb../bb.."},
+        {24, 7, kGreen, "r.../bk../..../....", "rr../rr../bbkk/bbkk"},
+        {24, -1, kGreen, "rg../bk../..../....", "rrgg/rrgg/bbkk/bbkk"},
+    };
+    for (const auto& c : cases) {
+        IsImage image = FourColors(c.bitCount);
+        image.SetTransparentIndex(c.index);
+        image.SetBackgroundColor(c.background);
+        for (const bool doubled : {false, true}) {
+            const Surface surface(4, 4);
+            // Colours that a monochrome source would be painted with.
+            SetTextColor(surface, RGB(1, 2, 3));
+            SetBkColor(surface, RGB(4, 5, 6));
+            EXPECT_TRUE(image.DrawImage(surface, 0, 0, doubled ? 4 : -1, doubled ? 4 : -1));
+            EXPECT_EQ(surface.Letters(), doubled ? c.doubled : c.natural);
+            EXPECT_EQ(GetTextColor(surface), RGB(1, 2, 3));
+            EXPECT_EQ(GetBkColor(surface), c.index < 0 ? RGB(4, 5, 6) : RGB(255, 255, 255));
+        }
+    }
+}
+
+TEST(DrawImage, DoesNothingWhereATransparentPictureIsNotVisible) {
+    IsImage image = FourColors(8);
+    image.SetTransparentIndex(0);
+    const Surface surface(4, 4);
+    SetBkColor(surface, RGB(4, 5, 6));
+    IntersectClipRect(surface, 0, 0, 1, 1);
+    EXPECT_TRUE(image.DrawImage(surface, 2, 2, 2, 2));
+    EXPECT_EQ(GetBkColor(surface), RGB(4, 5, 6));
+    EXPECT_TRUE(image.DrawImage(surface, INT32_MAX, INT32_MAX, INT32_MAX, INT32_MAX));
+    EXPECT_EQ(surface.Letters(), "..../..../..../....");
+}
+
+TEST(Drawing, IsRefusedWithoutPictureOrTarget) {
+    const Surface surface(4, 4);
+    const IsImage empty;
+    IsImage image = FourColors(24);
+    const RECT area = {0, 0, 4, 4};
+    EXPECT_FALSE(empty.DrawImage(surface, 0, 0, 2, 2));
+    EXPECT_FALSE(empty.StretchImage(surface, 0, 0, 2, 2, SRCCOPY));
+    EXPECT_FALSE(empty.TileImage(surface, area));
+    EXPECT_FALSE(image.DrawImage(nullptr, 0, 0, 2, 2));
+    EXPECT_FALSE(image.StretchImage(nullptr, 0, 0, 2, 2, SRCCOPY));
+    EXPECT_FALSE(image.TileImage(nullptr, area));
+    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 0, 2));
+    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 2, 0));
+    image.Enable(false);
+    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 2, 2));
+    EXPECT_FALSE(image.TileImage(surface, area));
+    EXPECT_EQ(surface.Letters(), "..../..../..../....");
+    EXPECT_TRUE(image.StretchImage(surface, 0, 0, 2, 2, SRCCOPY)) << "heeds no switch";
+    EXPECT_EQ(surface.Letters(), "rg../bk../..../....");
+}
+
+TEST(StretchImage, UsesTheRasterOperationAndNoTransparency) {
+    IsImage image = FourColors(8);
+    image.SetTransparentIndex(0);
+    const Surface surface(3, 2);
+    EXPECT_TRUE(image.StretchImage(surface, 0, 0, 2, 2, NOTSRCCOPY));
+    EXPECT_EQ(surface.Letters().substr(0, 1), "c") << "the opposite of red";
+    EXPECT_TRUE(image.StretchImage(surface, 1, 0, 2, 2, SRCCOPY));
+    EXPECT_EQ(surface.Letters().substr(1, 2), "rg");
+    EXPECT_EQ(surface.Letters().substr(5, 2), "bk");
+}
+
+TEST(TileImage, FillsThePicturesSizeAtTheOrigin) {
+    const IsImage image = FourColors(8);
+    const Surface surface(4, 4);
+    EXPECT_TRUE(image.TileImage(surface, RECT{0, 0, 4, 4}));
+    EXPECT_EQ(surface.Letters(), "rg../bk../..../....");
+
+    const Surface shifted(4, 4);
+    SetBrushOrgEx(shifted, 1, 0, nullptr);
+    EXPECT_TRUE(image.TileImage(shifted, RECT{0, 0, 4, 4}));
+    EXPECT_EQ(shifted.Letters(), "gr../kb../..../....") << "aligned to the brush origin";
+}
+
+} // namespace
