@@ -24,8 +24,8 @@ CBufferDC::~CBufferDC() {
         return;
     ::BitBlt(m_target, m_rect.left, m_rect.top, m_rect.right - m_rect.left,
              m_rect.bottom - m_rect.top, m_hDC, m_rect.left, m_rect.top, SRCCOPY);
+    // No longer selected, the bitmap goes next; the base then deletes the device context.
     ::SelectObject(m_hDC, m_previousBitmap);
-    m_bitmap.DeleteObject(); // no longer selected; the base then deletes the device context
 }
 
 bool CBufferDC::OpenBuffer() {
