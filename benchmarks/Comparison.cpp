@@ -23,8 +23,7 @@ double Median(std::vector<double>& times) {
 
 } // namespace
 
-std::vector<double> MedianTimes(const std::vector<Contender>& contenders, int batch) {
-    constexpr int rounds = 31; // odd: the median is a time that was measured
+std::vector<double> MedianTimes(const std::vector<Contender>& contenders, int batch, int rounds) {
     std::vector<std::vector<double>> times(contenders.size());
     for (const Contender& contender : contenders)
         TimeOnce(contender, batch); // caches, fonts and surfaces are warm afterwards
@@ -39,8 +38,8 @@ std::vector<double> MedianTimes(const std::vector<Contender>& contenders, int ba
 }
 
 std::vector<Row> Compare(const std::string& what, const std::vector<Contender>& contenders,
-                         int batch) {
-    const std::vector<double> times = MedianTimes(contenders, batch);
+                         int batch, int rounds) {
+    const std::vector<double> times = MedianTimes(contenders, batch, rounds);
     std::vector<Row> rows;
     for (std::size_t i = 1; i < contenders.size(); ++i)
         rows.push_back({what, contenders[i].name, times.front(), times[i]});

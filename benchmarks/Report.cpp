@@ -8,9 +8,11 @@
 std::string FormatTable(const std::vector<Row>& rows) {
     std::size_t whatWidth = 8;
     std::size_t againstWidth = 7;
+    bool anyPeak = false;
     for (const Row& row : rows) {
         whatWidth = std::max(whatWidth, row.what.size());
         againstWidth = std::max(againstWidth, row.against.size());
+        anyPeak = anyPeak || row.peakMegabytes > 0;
     }
 
     std::ostringstream out;
@@ -18,11 +20,16 @@ std::string FormatTable(const std::vector<Row>& rows) {
         return out << std::left << std::setw(static_cast<int>(whatWidth)) << what << "  "
                    << std::setw(static_cast<int>(againstWidth)) << against << "  " << std::right;
     };
-    line("measured", "against") << "  ours (us)  theirs (us)  ratio\n";
+    line("measured", "against") << "  ours (us)  theirs (us)  ratio"
+                                << (anyPeak ? "  our peak (MB)" : "") << '\n';
     out << std::fixed << std::setprecision(2);
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         line(row.what, row.against) << std::setw(11) << row.ours << "  " << std::setw(11)
-                                    << row.theirs << "  " << std::setw(5) << row.Ratio() << '\n';
+                                    << row.theirs << "  " << std::setw(5) << row.Ratio();
+        if (row.peakMegabytes > 0)
+            out << "  " << std::setw(13) << row.peakMegabytes;
+        out << '\n';
+    }
     return out.str();
 }
 
@@ -34,7 +41,10 @@ std::string FormatJson(const std::vector<Row>& rows) {
     for (const Row& row : rows) {
         out << separator << "  {\"what\": \"" << row.what << "\", \"against\": \"" << row.against
             << "\", \"oursMicroseconds\": " << row.ours
-            << ", \"theirsMicroseconds\": " << row.theirs << ", \"ratio\": " << row.Ratio() << "}";
+            << ", \"theirsMicroseconds\": " << row.theirs << ", \"ratio\": " << row.Ratio();
+        if (row.peakMegabytes > 0)
+            out << ", \"peakMegabytes\": " << row.peakMegabytes;
+        out << "}";
         separator = ",\n";
     }
     out << "\n]\n";

@@ -6,8 +6,9 @@
 
 #include "benchmarks/Comparison.h"
 
-/// The rows as a table for people.
+/// The rows as a table for people; peak memory has a column when any of them states it.
 std::string FormatTable(const std::vector<Row>& rows);
 
-/// The rows as a JSON array of objects: what, against, oursMicroseconds, theirsMicroseconds, ratio.
+/// The rows as a JSON array of objects: what, against, oursMicroseconds, theirsMicroseconds, ratio, and
+/// where it was measured peakMegabytes.
 std::string FormatJson(const std::vector<Row>& rows);
