@@ -2,6 +2,7 @@
 #include "gallery/GalleryDlg.h"
 
 #include "gallery/ButtonsPage.h"
+#include "gallery/PicturesPage.h"
 #include "gallery/resource.h"
 
 BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
@@ -10,6 +11,7 @@ END_MESSAGE_MAP()
 
 CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
+    m_pages.push_back(std::make_unique<CPicturesPage>());
 }
 
 void CGalleryDlg::DoDataExchange(CDataExchange* exchange) {

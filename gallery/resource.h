@@ -6,6 +6,7 @@
 
 #define IDD_GALLERY 101
 #define IDD_BUTTONS 102
+#define IDD_PICTURES 103
 
 // The gallery window
 #define IDC_SCENES 1001
@@ -24,3 +25,12 @@
 #define IDC_SYSTEM_OK 1108
 #define IDC_SYSTEM_CANCEL 1109
 #define IDC_SYSTEM_APPLY 1110
+
+// The page "Pictures"; the nine pictures have consecutive identifiers, row by row
+#define IDC_PICTURE_FIRST 1201
+#define IDC_PICTURE_LAST 1209
+#define IDC_TRANSPARENT 1210
+#define IDC_TILES 1211
+#define IDC_UNREADABLE 1212
+#define IDC_PASTED 1213
+#define IDC_PASTE 1214

@@ -69,7 +69,10 @@ void PictureTour::Run() {
 void PictureTour::VisitScenes(const std::string& scheme) {
     const bool isDefault = scheme == "default";
     ChooseScene(0);
-    TourButtons(*this, isDefault ? "" : "-" + scheme);
+    const std::string suffix = isDefault ? "" : "-" + scheme;
+    TourButtons(*this, suffix);
+    ChooseScene(1);
+    TourPictures(*this, suffix);
 
     // The whole window, with something hot in it.  Drawn afresh: Wine's check box may keep its focus
     // mark after the focus has gone.

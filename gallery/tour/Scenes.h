@@ -8,3 +8,6 @@ class PictureTour;
 /// The buttons in each of their states.
 /// @param suffix  appended to the names of the pictures: empty, or a hyphen and the scheme
 void TourButtons(PictureTour& tour, const std::string& suffix);
+
+/// The pictures, with one pasted from the clipboard.
+void TourPictures(PictureTour& tour, const std::string& suffix);
