@@ -20,34 +20,29 @@ bool SameFaceName(LPCTSTR left, LPCTSTR right) {
 
 // --- CFontWeightSelector ------------------------------------------------------------------------
 
-CFontWeightSelector::CFontWeightSelector(HDC dc, bool bold) : m_dc(dc) {
+CFontWeightSelector::CFontWeightSelector(HDC dc, bool bold) : m_selection(dc) {
     LOGFONTA font;
     if (!GetCurrentLogFont(dc, font) || (font.lfWeight == FW_BOLD) == bold)
         return;
     font.lfWeight = bold ? FW_BOLD : FW_NORMAL;
     CreateFontIndirect(&font);
-    m_previous = ::SelectObject(dc, GetSafeHandle());
-}
-
-CFontWeightSelector::~CFontWeightSelector() {
-    if (m_previous != nullptr)
-        ::SelectObject(m_dc, m_previous);
-    DeleteObject();
+    m_selection.Select(GetSafeHandle());
 }
 
 // --- CBrushSelector -----------------------------------------------------------------------------
 
-CBrushSelector::CBrushSelector(HDC dc, COLORREF color) : m_dc(dc) {
-    Select(color);
-}
-
-CBrushSelector::~CBrushSelector() {
-    Restore();
+CBrushSelector::CBrushSelector(HDC dc, COLORREF color) : m_selection(dc) {
+    SetColor(color);
 }
 
 void CBrushSelector::SetColor(COLORREF color) {
-    Restore();
-    Select(color);
+    m_selection.Undo();
+    DeleteObject();
+    if (color == tint::kNoColor)
+        CreateStockObject(NULL_BRUSH);
+    else
+        CreateSolidBrush(color);
+    m_selection.Select(GetSafeHandle());
 }
 
 COLORREF CBrushSelector::GetColor() const {
@@ -56,34 +51,17 @@ COLORREF CBrushSelector::GetColor() const {
     return brush.lbColor;
 }
 
-void CBrushSelector::Select(COLORREF color) {
-    if (color == tint::kNoColor)
-        CreateStockObject(NULL_BRUSH);
-    else
-        CreateSolidBrush(color);
-    m_previous = ::SelectObject(m_dc, GetSafeHandle());
-}
-
-void CBrushSelector::Restore() {
-    if (m_previous != nullptr)
-        ::SelectObject(m_dc, m_previous);
-    m_previous = nullptr;
-    DeleteObject();
-}
-
 // --- CPenSelector -------------------------------------------------------------------------------
 
-CPenSelector::CPenSelector(HDC dc, COLORREF color) : m_dc(dc) {
-    Select(color);
-}
-
-CPenSelector::~CPenSelector() {
-    Restore();
+CPenSelector::CPenSelector(HDC dc, COLORREF color) : m_selection(dc) {
+    SetColor(color);
 }
 
 void CPenSelector::SetColor(COLORREF color) {
-    Restore();
-    Select(color);
+    m_selection.Undo();
+    DeleteObject();
+    CreatePen(PS_SOLID, 1, color);
+    m_selection.Select(GetSafeHandle());
 }
 
 COLORREF CPenSelector::GetColor() const {
@@ -92,31 +70,19 @@ COLORREF CPenSelector::GetColor() const {
     return pen.lopnColor;
 }
 
-void CPenSelector::Select(COLORREF color) {
-    CreatePen(PS_SOLID, 1, color);
-    m_previous = ::SelectObject(m_dc, GetSafeHandle());
-}
-
-void CPenSelector::Restore() {
-    if (m_previous != nullptr)
-        ::SelectObject(m_dc, m_previous);
-    m_previous = nullptr;
-    DeleteObject();
-}
-
 // --- CDCObjectSaver -----------------------------------------------------------------------------
 
-CDCObjectSaver::CDCObjectSaver(HDC dc, int stockObject, COLORREF textColor) : m_dc(dc) {
+CDCObjectSaver::CDCObjectSaver(HDC dc, int stockObject, COLORREF textColor) : m_selection(dc) {
     SelectStockObject(stockObject);
     ApplyTextColor(textColor);
 }
 
-CDCObjectSaver::CDCObjectSaver(HDC dc, HGDIOBJ object, COLORREF textColor) : m_dc(dc) {
+CDCObjectSaver::CDCObjectSaver(HDC dc, HGDIOBJ object, COLORREF textColor) : m_selection(dc) {
     SelectObject(object);
     ApplyTextColor(textColor);
 }
 
-CDCObjectSaver::CDCObjectSaver(HDC dc, LPCTSTR faceName, COLORREF textColor) : m_dc(dc) {
+CDCObjectSaver::CDCObjectSaver(HDC dc, LPCTSTR faceName, COLORREF textColor) : m_selection(dc) {
     SetFaceName(faceName);
     ApplyTextColor(textColor);
 }
@@ -124,7 +90,7 @@ CDCObjectSaver::CDCObjectSaver(HDC dc, LPCTSTR faceName, COLORREF textColor) : m
 CDCObjectSaver::~CDCObjectSaver() {
     UndoSelection();
     if (m_savedTextColor != tint::kNoColor)
-        ::SetTextColor(m_dc, m_savedTextColor);
+        ::SetTextColor(m_selection.dc(), m_savedTextColor);
 }
 
 void CDCObjectSaver::SelectStockObject(int stockObject) {
@@ -134,12 +100,12 @@ void CDCObjectSaver::SelectStockObject(int stockObject) {
 void CDCObjectSaver::SelectObject(HGDIOBJ object) {
     UndoSelection();
     m_object = object;
-    m_previous = ::SelectObject(m_dc, object);
+    m_selection.Select(object);
 }
 
 void CDCObjectSaver::SetFaceName(LPCTSTR faceName) {
     LOGFONTA font;
-    if (faceName == nullptr || !GetCurrentLogFont(m_dc, font) ||
+    if (faceName == nullptr || !GetCurrentLogFont(m_selection.dc(), font) ||
         SameFaceName(font.lfFaceName, faceName))
         return;
     // The copy is made of the font read above, so undoing the selection may delete that font.
@@ -149,17 +115,17 @@ void CDCObjectSaver::SetFaceName(LPCTSTR faceName) {
 
 CString CDCObjectSaver::GetFaceName() const {
     LOGFONTA font;
-    return GetCurrentLogFont(m_dc, font) ? CString(font.lfFaceName) : CString();
+    return GetCurrentLogFont(m_selection.dc(), font) ? CString(font.lfFaceName) : CString();
 }
 
 void CDCObjectSaver::SetTextColor(COLORREF color) {
-    const COLORREF previous = ::SetTextColor(m_dc, color);
+    const COLORREF previous = ::SetTextColor(m_selection.dc(), color);
     if (m_savedTextColor == tint::kNoColor)
         m_savedTextColor = previous;
 }
 
 COLORREF CDCObjectSaver::GetTextColor() const {
-    return ::GetTextColor(m_dc);
+    return ::GetTextColor(m_selection.dc());
 }
 
 void CDCObjectSaver::ApplyTextColor(COLORREF color) {
@@ -168,10 +134,8 @@ void CDCObjectSaver::ApplyTextColor(COLORREF color) {
 }
 
 void CDCObjectSaver::UndoSelection() {
-    if (m_previous != nullptr)
-        ::SelectObject(m_dc, m_previous);
+    m_selection.Undo();
     if (m_object != nullptr)
         ::DeleteObject(m_object);
-    m_previous = nullptr;
     m_object = nullptr;
 }

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include "draw/ColorMarkers.h"
+#include "draw/ObjectSelection.h"
 
 /// @file
 /// Scope-bound selection of GDI objects: each class puts something into a device context and puts
@@ -27,24 +28,15 @@
 class CFontWeightSelector : public CFont {
 public:
     [[nodiscard]] CFontWeightSelector(HDC dc, bool bold);
-    ~CFontWeightSelector() override;
-
-    CFontWeightSelector(const CFontWeightSelector&) = delete;
-    CFontWeightSelector& operator=(const CFontWeightSelector&) = delete;
 
 private:
-    HDC m_dc;
-    HGDIOBJ m_previous = nullptr; ///< null: nothing was changed
+    tint::ObjectSelection m_selection; ///< undone before the base deletes the font
 };
 
 /// Selects a solid brush; tint::kNoColor selects the stock hollow brush.
 class CBrushSelector : public CBrush {
 public:
     [[nodiscard]] CBrushSelector(HDC dc, COLORREF color);
-    ~CBrushSelector() override;
-
-    CBrushSelector(const CBrushSelector&) = delete;
-    CBrushSelector& operator=(const CBrushSelector&) = delete;
 
     /// Replaces the brush by one of another colour (or the hollow one).
     void SetColor(COLORREF color);
@@ -53,11 +45,7 @@ public:
     COLORREF GetColor() const;
 
 private:
-    void Select(COLORREF color);
-    void Restore();
-
-    HDC m_dc;
-    HGDIOBJ m_previous = nullptr;
+    tint::ObjectSelection m_selection; ///< undone before the base deletes the brush
 };
 
 /// Selects a solid pen one pixel wide.  There is no hollow case: every value is handed to GDI as a
@@ -65,10 +53,6 @@ private:
 class CPenSelector : public CPen {
 public:
     [[nodiscard]] CPenSelector(HDC dc, COLORREF color);
-    ~CPenSelector() override;
-
-    CPenSelector(const CPenSelector&) = delete;
-    CPenSelector& operator=(const CPenSelector&) = delete;
 
     /// Replaces the pen by one of another colour.
     void SetColor(COLORREF color);
@@ -77,11 +61,7 @@ public:
     COLORREF GetColor() const;
 
 private:
-    void Select(COLORREF color);
-    void Restore();
-
-    HDC m_dc;
-    HGDIOBJ m_previous = nullptr;
+    tint::ObjectSelection m_selection; ///< undone before the base deletes the pen
 };
 
 /// Selects any pen, brush, font or bitmap (not a region) and sets the text colour; restores both.
@@ -134,7 +114,6 @@ private:
     void UndoSelection();
 
     HGDIOBJ m_object = nullptr;
-    HDC m_dc;
-    HGDIOBJ m_previous = nullptr; ///< null: nothing is selected
+    tint::ObjectSelection m_selection;
     COLORREF m_savedTextColor = tint::kNoColor;
 };
