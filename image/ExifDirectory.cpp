@@ -70,8 +70,6 @@ bool ExifReader::ProcessExif(const uint8_t* data, uint32_t length) {
 bool ExifReader::ProcessDirectory(const uint8_t* directory, const uint8_t* offsetBase,
                                   uint32_t exifLength, ExifInfo* into, const uint8_t** lastUsed) {
     const DepthGuard guard(m_depth);
-    if (m_depth == 1)
-        m_directories = 0;
     const tint::DecodeLimits limits = tint::GetDecodeLimits();
     if (m_depth > std::min(limits.maxExifDepth, kMaxDepth))
         return Fail("EXIF directories exceed the limit maxExifDepth");

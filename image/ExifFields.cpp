@@ -63,6 +63,18 @@ void CopyText(char (&to)[N], const uint8_t* from, size_t bytes, size_t limit = N
     memcpy(to, from, length);
 }
 
+/// The length of a text without the spaces at its end.
+size_t LengthWithoutFilling(const uint8_t* text, size_t bytes) {
+    // By blocks: many entries of a damaged file can share one long value.
+    constexpr char kSpaces[] = "                                                                ";
+    constexpr size_t kBlock = sizeof(kSpaces) - 1;
+    while (bytes >= kBlock && memcmp(text + bytes - kBlock, kSpaces, kBlock) == 0)
+        bytes -= kBlock;
+    while (bytes > 0 && text[bytes - 1] == ' ')
+        --bytes;
+    return bytes;
+}
+
 /// A unit of length in inches; other codes leave `factor` as it is.
 void StoreUnit(double code, float& factor) {
     switch (ToInt32(code)) {
@@ -276,9 +288,7 @@ void ExifReader::StoreUserComment(const Field& field, ExifInfo& to) {
     constexpr size_t kMaxCharacters = 199;
     constexpr size_t kNameBytes = 5;
     constexpr size_t kFillEnd = 10;
-    size_t bytes = field.bytes;
-    while (bytes > 0 && field.value[bytes - 1] == ' ')
-        --bytes;
+    const size_t bytes = LengthWithoutFilling(field.value, field.bytes);
     size_t start = 0;
     if (bytes >= kNameBytes && memcmp(field.value, "ASCII", kNameBytes) == 0) {
         const size_t end = std::min(bytes, kFillEnd);

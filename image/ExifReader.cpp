@@ -177,8 +177,10 @@ int32_t ExifReader::ThumbnailPosition() const {
     const uint8_t* thumbnail = info->thumbnailData;
     for (const Section& section : sections) {
         const uint8_t* data = section.data.get();
-        if (data && thumbnail >= data && thumbnail < data + section.size + kSlackBytes)
-            return section.position + static_cast<int32_t>(thumbnail - data);
+        if (!data || thumbnail < data || thumbnail >= data + section.size + kSlackBytes)
+            continue;
+        const int64_t position = section.position + int64_t{thumbnail - data};
+        return section.position >= 0 && position <= INT32_MAX ? static_cast<int32_t>(position) : -1;
     }
     return -1;
 }

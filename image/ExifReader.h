@@ -96,7 +96,7 @@ public:
     int32_t SectionCount() const { return sectionCount; }
     /// @param index  below SectionCount
     const Section& SectionAt(int32_t index) const { return sections[index]; }
-    /// Where the thumbnail begins in the stream, -1 when there is none.
+    /// Where the thumbnail begins in the stream, -1 when there is none or 31 bits do not hold it.
     int32_t ThumbnailPosition() const;
 
 private:
@@ -128,5 +128,5 @@ private:
     Section sections[kMaxSections];
     int32_t sectionCount;
     uint32_t m_depth;       ///< directories being read, one inside the other
-    uint32_t m_directories; ///< directories read in this block
+    uint32_t m_directories; ///< directories read so far, of all blocks
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 using namespace tint;
 
@@ -48,9 +49,9 @@ CxImageJPG::~CxImageJPG() = default;
 
 bool CxImageJPG::ReadExif(CxFile* stream) {
     exifInfo = {};
-    exifReader = std::make_unique<ExifReader>(&exifInfo);
+    exifReader.reset(new (std::nothrow) ExifReader(&exifInfo));
     const int32_t position = stream ? stream->Tell() : -1;
-    if (position < 0)
+    if (!exifReader || position < 0)
         return false; // what cannot be gone back to is left to the decoder
     exifReader->ReadSections(stream, ExifReader::kReadMetadata);
     return stream->Seek(position, 0) && exifInfo.isExif;

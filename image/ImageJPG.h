@@ -34,7 +34,8 @@ enum JpegOption : uint32_t {
 ///
 /// Colours come out in 24 bits, grey in 8 with a grey palette.  The picture is stored as the file has
 /// it: its orientation is told (IsImage::Info), and IsImage::ApplyOrientation turns it.  A file that
-/// ends early gives the picture up to there, and a success.
+/// ends early gives the picture up to there, and a success; only one of several scans is refused when
+/// it claims a picture far beyond what its data can fill.
 ///
 /// The resolution is that of the EXIF fields, else the density of the JFIF header as it stands, also
 /// where that is a ratio of sides; a density per centimetre is deliberately put into the formula for
@@ -53,7 +54,7 @@ public:
     /// @return whether there are EXIF fields; Exif may hold a comment and the frame's size anyway
     bool ReadExif(CxFile* stream);
 
-    /// Why ReadExif failed, "" if it did not.
+    /// The last failure or oddity that ReadExif met, "" if there was none.  An oddity is no failure.
     const char* ExifErrorText() const;
     /// Where the thumbnail begins in the stream, -1 when there is none.
     int32_t ThumbnailPosition() const;

@@ -21,6 +21,10 @@ constexpr png_uint_16 kBackgroundGrey = 192;
 /// passed over, are to let the frames of animations through.
 constexpr png_alloc_size_t kMaxChunkBytes = 64u * 1024 * 1024;
 
+/// How long a row may be whatever the file holds, and what one byte of a file can become at most.
+constexpr uint64_t kRowBytesFree = 1024 * 1024;
+constexpr uint64_t kBytesPerDeflatedByte = 1032;
+
 /// What leaves libpng instead of a long jump, so that everything on the way is released.
 class PngError : public std::runtime_error {
 public:
@@ -54,6 +58,7 @@ public:
 
     void SetLimits();
     void ReadHeader();
+    void CheckRowBytes(CxFile& stream) const;
     bool HasColor() const { return (colorType & PNG_COLOR_MASK_COLOR) != 0; }
     bool HasAlpha() const { return (colorType & PNG_COLOR_MASK_ALPHA) != 0; }
     bool HasTransparency() const { return png_get_valid(png, info, PNG_INFO_tRNS) != 0; }
@@ -85,6 +90,18 @@ void CxImagePNG::Reader::ReadHeader() {
     colorType = png_get_color_type(png, info);
     bitDepth = png_get_bit_depth(png, info);
     pixelDepth = bitDepth * png_get_channels(png, info);
+}
+
+/// Ends the reading where even a single row is longer than what is left of the stream can hold:
+/// libpng clears several rows of memory before it reads the first.
+void CxImagePNG::Reader::CheckRowBytes(CxFile& stream) const {
+    const int32_t size = stream.Size();
+    const int32_t position = stream.Tell();
+    if (position < 0 || size < position)
+        return; // a length there is no knowing
+    const uint64_t left = static_cast<uint64_t>(size - position);
+    if (png_get_rowbytes(png, info) > kRowBytesFree + kBytesPerDeflatedByte * left)
+        png_error(png, "Read Error");
 }
 
 /// The bKGD colour, null without one.
@@ -140,7 +157,7 @@ bool CxImagePNG::DecodePng(CxFile* stream) {
         Reader reader;
         png_set_read_fn(reader.png, stream, PngReadCallback);
         png_set_error_fn(reader.png, this, PngErrorCallback, nullptr);
-        return ReadPicture(reader);
+        return ReadPicture(reader, *stream);
     } catch (const PngError& error) {
         SetErrorText(error.what());
     } catch (const std::bad_alloc&) {
@@ -149,13 +166,14 @@ bool CxImagePNG::DecodePng(CxFile* stream) {
     return false;
 }
 
-bool CxImagePNG::ReadPicture(Reader& reader) {
+bool CxImagePNG::ReadPicture(Reader& reader, CxFile& stream) {
     reader.SetLimits();
     reader.ReadHeader();
     if (!CreateImage(png_get_image_width(reader.png, reader.info),
                      png_get_image_height(reader.png, reader.info),
                      static_cast<uint32_t>(reader.pixelDepth), kFormatPng))
         return false;
+    reader.CheckRowBytes(stream);
     // A picture decoded before may have left these.
     info.transparentIndex = -1;
     info.backgroundColor = {};

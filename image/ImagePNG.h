@@ -44,7 +44,7 @@ private:
     static void PngReadCallback(png_struct_def* png, uint8_t* buffer, size_t length);
     [[noreturn]] static void PngErrorCallback(png_struct_def* png, const char* message);
 
-    bool ReadPicture(Reader& reader);
+    bool ReadPicture(Reader& reader, CxFile& stream);
     void ReadResolution(Reader& reader);
     void ReadBackground(Reader& reader);
     void ReadPalette(Reader& reader);

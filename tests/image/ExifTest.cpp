@@ -282,6 +282,8 @@ TEST(ExifFields, UserCommentsLoseTheNameOfPlainText) {
         {"ASCII     Hi"s, ""},
         {"ASCII!"s, "!"},
         {"plain text   "s, "plain text"},
+        {"text"s + std::string(130, ' '), "text"},
+        {std::string(128, ' '), ""},
         {"     "s, ""},
         {"\0\0\0\0\0\0\0\0Hi"s, ""},
         {"UNICODE\0H\0i\0"s, "UNICODE"},
@@ -393,6 +395,13 @@ TEST(ExifBlocks, DepthAndNumberOfDirectoriesAreLimited) {
         tint::SetDecodeLimits(limits);
         EXPECT_STREQ(Read(twoBeside).reader.LastError(), c.error);
     }
+    // The number is that of the file, however many blocks it has.
+    tint::DecodeLimits limits;
+    limits.maxExifDirectories = 2;
+    tint::SetDecodeLimits(limits);
+    const Bytes one = Section(0xE1, b.Block({b.Short(0x112, 6)}));
+    EXPECT_TRUE(ReadFile(FileOf({one, one})).reader.Info().isExif);
+    EXPECT_FALSE(ReadFile(FileOf({one, one, one})).reader.Info().isExif);
 }
 
 TEST(ExifBlocks, ThumbnailsLieInTheBlock) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -284,6 +285,30 @@ TEST(PngChunks, OthersAreIgnored) {
     ASSERT_TRUE(DecodePng(PngFile(Make(kRgb, 8, 1, 1, {1, 2, 3}, others)), image))
         << image.LastErrorText();
     EXPECT_EQ(Picture(image), "010203");
+}
+
+/// libpng would clear the memory of rows before it sees that there are none.
+TEST(PngDamage, ARowBeyondTheDataIsAReadError) {
+    const struct {
+        uint32_t width;
+        const char* error;
+    } cases[] = {
+        {1000, "Not enough image data"},
+        {178'000'000, "Read Error"},
+        {179'000'000, "image row exceeds 32 bits"},
+    };
+    for (const auto& c : cases) {
+        Png png = Make(kRgbAlpha, 16, 1, 1, Bytes(8));
+        Bytes file = PngFile(png);
+        Bytes header = {'I', 'H', 'D', 'R'};
+        AppendBe32(header, c.width);
+        header.insert(header.end(), file.begin() + 20, file.begin() + 29);
+        AppendBe32(header, static_cast<uint32_t>(crc32(0, header.data(), 17)));
+        std::copy(header.begin(), header.end(), file.begin() + 12);
+        CxImagePNG image;
+        EXPECT_FALSE(DecodePng(file, image));
+        EXPECT_STREQ(image.LastErrorText(), c.error);
+    }
 }
 
 TEST(PngLimits, AreNamedByTheRefusal) {
