@@ -13,8 +13,8 @@ END_MESSAGE_MAP()
 CImageStatic::~CImageStatic() = default;
 
 void CImageStatic::SetImage(const char* path) {
-    m_image
-        .reset(); // before the next one is loaded: two pictures may be more than there is room for
+    // Freed before the next one is loaded: two pictures may be more than there is room for.
+    m_image.reset();
     m_image.reset(new (std::nothrow) IsImage(path));
 }
 
