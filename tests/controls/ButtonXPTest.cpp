@@ -338,6 +338,17 @@ TEST(ButtonXP, NothingReachesTheTargetBeforeTheBufferCloses) {
     EXPECT_EQ(calls.m_onWatched, std::vector<std::string>{"BitBlt"});
 }
 
+TEST(ButtonXP, DisabledUnderTheMouseItIsHotNoMore) {
+    ButtonDialog dialog;
+    automation::MoveMouseOver(dialog.m_subject.m_hWnd);
+    ASSERT_TRUE(ComesToShow(dialog, Hot()));
+    const Canvas canvas(200, 60);
+    DRAWITEMSTRUCT item = RequestFor(dialog.m_subject, canvas, ODS_DISABLED);
+    dialog.m_subject.DrawItem(&item);
+    EXPECT_EQ(canvas.At(0, 0), Resting().frame);
+    EXPECT_EQ(canvas.At(1, 1), Resting().face);
+}
+
 TEST(ButtonXP, APaintLeavesTheContextAsFoundAndGivesEverythingBack) {
     ButtonDialog dialog;
     const Canvas canvas(200, 60);
