@@ -193,6 +193,9 @@ TEST_P(ButtonXPColors, FollowEveryState) {
     automation::PressMouse();
     EXPECT_TRUE(ComesToShow(dialog, Focused(Pressed()))) << "pressing takes the focus too";
     ButtonDialog::ParkMouse();
+    EXPECT_TRUE(PumpUntil([&] {
+        return !Shows(automation::CaptureWindow(subject.m_hWnd), Focused(Pressed()));
+    })) << "dragged out, it is up again";
     automation::ReleaseMouse();
     EXPECT_TRUE(ComesToShow(dialog, Focused(Emphasised()))) << "released outside";
     EXPECT_EQ(dialog.m_clicks, 0);
