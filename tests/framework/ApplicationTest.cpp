@@ -30,9 +30,8 @@ public:
     }
     BOOL OnIdle(LONG count) override {
         m_idle.push_back(count);
-        if (static_cast<int>(m_idle.size()) == m_quitAfter) {
+        if (static_cast<int>(m_idle.size()) == m_quitAfter)
             ::PostQuitMessage(6);
-        }
         return CWinApp::OnIdle(count);
     }
 };
@@ -56,11 +55,10 @@ protected:
         m_app.m_pszProfileName = ::_strdup(m_file);
     }
     void TearDown() override {
-        if (GetParam()) {
+        if (GetParam())
             m_app.DelRegTree(HKEY_CURRENT_USER, CString("Software\\") + Company);
-        } else {
+        else
             ::DeleteFile(m_file);
-        }
     }
 
     App m_app;
@@ -77,17 +75,18 @@ TEST_P(Profile, Numbers) {
 }
 
 TEST_P(Profile, Strings) {
-    EXPECT_EQ(m_app.GetProfileString("Files", "Last", "none"), "none");
+    const auto stored = [this] { return m_app.GetProfileString("Files", "Last", "none"); };
+    EXPECT_EQ(stored(), "none");
     EXPECT_EQ(m_app.GetProfileString("Files", "Last"), "");
-    EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", "C:\\a b.txt"));
-    EXPECT_EQ(m_app.GetProfileString("Files", "Last", "none"), "C:\\a b.txt");
-    EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", ""));
-    EXPECT_EQ(m_app.GetProfileString("Files", "Last", "none"), "");
+    for (const char* const text : {"C:\\a b.txt", ""}) {
+        EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", text));
+        EXPECT_EQ(stored(), text);
+    }
     EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", nullptr));
-    EXPECT_EQ(m_app.GetProfileString("Files", "Last", "none"), "none");
-    m_app.WriteProfileString("Files", "Other", "x");
+    EXPECT_EQ(stored(), "none");
+    m_app.WriteProfileString("Files", "Last", "x");
     EXPECT_TRUE(m_app.WriteProfileString("Files", nullptr, nullptr));
-    EXPECT_EQ(m_app.GetProfileString("Files", "Other", "none"), "none");
+    EXPECT_EQ(stored(), "none");
 }
 
 TEST_P(Profile, Bytes) {
@@ -109,25 +108,14 @@ TEST_P(Profile, EntriesOfAnotherKind) {
     UINT size = 0;
     m_app.WriteProfileString("Look", "Shade", "@ not a number or code");
     EXPECT_EQ(m_app.GetProfileInt("Look", "Shade", 42), GetParam() ? 42U : 0U);
+    m_app.WriteProfileString("Look", "Hex", "0x1F");
+    EXPECT_EQ(m_app.GetProfileInt("Look", "Hex", 42), GetParam() ? 42U : 31U);
     EXPECT_FALSE(m_app.GetProfileBinary("Look", "Shade", &data, &size));
 }
 
 INSTANTIATE_TEST_SUITE_P(Application, Profile, testing::Bool(), [](const auto& param) {
     return std::string(param.param ? "Registry" : "IniFile");
 });
-
-TEST(Application, HexadecimalNumbersInAnIniFile) {
-    App app;
-    char folder[MAX_PATH] = {};
-    char file[MAX_PATH] = {};
-    ::GetTempPath(MAX_PATH, folder);
-    ::GetTempFileName(folder, "ini", 0, file);
-    std::free(const_cast<LPTSTR>(app.m_pszProfileName));
-    app.m_pszProfileName = ::_strdup(file);
-    app.WriteProfileString("Look", "Shade", "0x1F");
-    EXPECT_EQ(app.GetProfileInt("Look", "Shade", 0), 31U);
-    ::DeleteFile(file);
-}
 
 // ---- Names --------------------------------------------------------------------------------------
 
@@ -205,17 +193,19 @@ TEST_F(Running, IdleTimeUpdatesTheBarsAndEndsTemporaryObjects) {
 }
 
 TEST_F(Running, SomeMessagesAreNotWorthAnIdleCall) {
-    MSG msg = {};
-    msg.message = WM_LBUTTONDOWN;
-    EXPECT_TRUE(m_app.IsIdleMessage(&msg));
-    msg.message = WM_PAINT;
-    EXPECT_FALSE(m_app.IsIdleMessage(&msg));
-    msg.message = WM_MOUSEMOVE;
-    msg.pt = {5, 6};
-    EXPECT_TRUE(m_app.IsIdleMessage(&msg));
-    EXPECT_FALSE(m_app.IsIdleMessage(&msg)) << "the mouse has not moved";
-    msg.pt = {5, 7};
-    EXPECT_TRUE(m_app.IsIdleMessage(&msg));
+    const struct {
+        UINT message;
+        POINT point;
+        BOOL idle;
+    } rows[] = {
+        {WM_LBUTTONDOWN, {0, 0}, TRUE}, {WM_PAINT, {0, 0}, FALSE},
+        {WM_MOUSEMOVE, {5, 6}, TRUE},   {WM_MOUSEMOVE, {5, 6}, FALSE}, // the mouse has not moved
+        {WM_MOUSEMOVE, {5, 7}, TRUE},
+    };
+    for (const auto& row : rows) {
+        MSG msg = {nullptr, row.message, 0, 0, 0, row.point};
+        EXPECT_EQ(m_app.IsIdleMessage(&msg), row.idle) << row.message;
+    }
 }
 
 TEST_F(Running, TheMainWindowSeesTheMessagesOfWindowsBesideIt) {
@@ -237,14 +227,10 @@ TEST_F(Running, TheMainWindowSeesTheMessagesOfWindowsBesideIt) {
     m_app.m_pMainWnd = nullptr;
 }
 
-TEST_F(Running, TheExitCommandClosesTheMainWindow) {
+TEST_F(Running, CommandsOfTheApplicationAndTheirFailure) {
     EXPECT_TRUE(m_app.OnCmdMsg(ID_APP_EXIT, CN_COMMAND, nullptr, nullptr));
     EXPECT_EQ(m_window.m_closes, 1);
-}
-
-TEST_F(Running, AFailedCommandIsReported) {
     MSG msg = {};
-    msg.message = WM_COMMAND;
     const struct {
         CException* exception;
         UINT message;
@@ -340,12 +326,6 @@ TEST(Application, MenuItemsAsUserInterface) {
     ui.SetText("renamed");
     EXPECT_EQ(menu.GetMenuState(21, MF_BYCOMMAND) & (MF_GRAYED | MF_CHECKED),
               static_cast<UINT>(MF_CHECKED));
-    MENUITEMINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = MIIM_FTYPE | MIIM_ID;
-    menu.GetMenuItemInfo(1, &info, TRUE);
-    EXPECT_TRUE((info.fType & MFT_RADIOCHECK) != 0);
-    EXPECT_EQ(info.wID, 21U);
     CString text;
     menu.GetMenuString(1, text, MF_BYPOSITION);
     EXPECT_EQ(text, "renamed");
@@ -417,6 +397,8 @@ bool LoopThread::s_ended;
 IMPLEMENT_DYNCREATE(LoopThread, CWinThread)
 
 TEST(Application, AThreadEndsWithItsMainWindow) {
+    LoopThread::s_window = nullptr;
+    LoopThread::s_ended = false;
     CWinThread* const thread =
         AfxBeginThread(RUNTIME_CLASS(LoopThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
     ASSERT_NE(thread, nullptr);

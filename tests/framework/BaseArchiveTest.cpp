@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using Bytes = std::vector<BYTE>;
@@ -28,11 +29,10 @@ int CTestNode::alive = 0;
 IMPLEMENT_SERIAL(CTestNode, CObject, 1)
 
 void CTestNode::Serialize(CArchive& ar) {
-    if (ar.IsStoring()) {
+    if (ar.IsStoring())
         ar << value << next;
-    } else {
+    else
         ar >> value >> next;
-    }
 }
 
 /// A class that reads every version of itself.
@@ -104,40 +104,26 @@ Bytes NodeHeader(BYTE schema = 1) {
 
 } // namespace
 
+template <class... T>
+void ExpectSameBack(const T&... values) {
+    const Bytes bytes = Stored([&](CArchive& archive) { ((archive << values), ...); });
+    Load(bytes, [&](CArchive& archive) {
+        std::tuple<T...> loaded;
+        std::apply([&](T&... value) { ((archive >> value), ...); }, loaded);
+        EXPECT_TRUE(loaded == std::tie(values...));
+        BYTE none = 0;
+        EXPECT_EQ(CArchiveException::endOfFile,
+                  CauseOf<CArchiveException>([&] { archive >> none; }));
+    });
+}
+
 TEST(BaseArchive, ValuesKeepTheirFormat) {
-    const Bytes bytes = Stored([](CArchive& archive) {
-        archive << BYTE{1} << WORD{0x0203} << DWORD{0x04050607} << true << 'c' << L'w';
-        archive << short{-2} << -3 << LONG{-4} << 5u << LONGLONG{-6} << ULONGLONG{7};
-        archive << 1.5f << -2.5 << CPoint(1, 2) << CSize(3, 4) << CRect(5, 6, 7, 8);
-    });
-    EXPECT_EQ((Bytes{1, 3, 2, 7, 6, 5, 4, 1, 'c', 'w', 0}),
-              Bytes(bytes.begin(), bytes.begin() + 11));
-    Load(bytes, [](CArchive& archive) {
-        BYTE by;
-        WORD w;
-        DWORD dw;
-        bool b;
-        char ch;
-        wchar_t wch;
-        short s;
-        int i;
-        LONG l;
-        unsigned u;
-        LONGLONG ll;
-        ULONGLONG ull;
-        float f;
-        double d;
-        CPoint point;
-        CSize size;
-        CRect rect;
-        archive >> by >> w >> dw >> b >> ch >> wch >> s >> i >> l >> u >> ll >> ull >> f >> d;
-        archive >> point >> size >> rect;
-        EXPECT_TRUE(by == 1 && w == 0x0203 && dw == 0x04050607 && b && ch == 'c' && wch == L'w');
-        EXPECT_TRUE(s == -2 && i == -3 && l == -4 && u == 5 && ll == -6 && ull == 7);
-        EXPECT_TRUE(f == 1.5f && d == -2.5);
-        EXPECT_TRUE(point == CPoint(1, 2) && size == CSize(3, 4) && rect == CRect(5, 6, 7, 8));
-        EXPECT_EQ(CArchiveException::endOfFile, CauseOf<CArchiveException>([&] { archive >> by; }));
-    });
+    EXPECT_EQ((Bytes{1, 3, 2, 7, 6, 5, 4, 1, 'c', 'w', 0}), Stored([](CArchive& archive) {
+                  archive << BYTE{1} << WORD{0x0203} << DWORD{0x04050607} << true << 'c' << L'w';
+              }));
+    ExpectSameBack(BYTE{1}, WORD{0x0203}, DWORD{0x04050607}, true, 'c', L'w');
+    ExpectSameBack(short{-2}, -3, LONG{-4}, 5u, LONGLONG{-6}, ULONGLONG{7}, 1.5f, -2.5);
+    ExpectSameBack(CPoint(1, 2), CSize(3, 4), CRect(5, 6, 7, 8));
 }
 
 TEST(BaseArchive, StringLengthsTakeTheShortestForm) {
@@ -173,18 +159,16 @@ TEST(BaseArchive, StringsLongerThanTheFileAreRefused) {
         {0xFF},
         {},
     };
-    for (const Bytes& bytes : tooLong) {
+    for (const Bytes& bytes : tooLong)
         EXPECT_EQ(CArchiveException::endOfFile, Fault(bytes, LoadText)) << bytes.size();
-    }
     EXPECT_EQ(CArchiveException::badIndex, Fault({0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF}, LoadText));
 }
 
 TEST(BaseArchive, BufferOfAnySizeGivesTheSameBytes) {
     std::string block(1000, 'b');
     const auto store = [&](CArchive& archive) {
-        for (int index = 0; index < 100; ++index) {
+        for (int index = 0; index < 100; ++index)
             archive << index;
-        }
         archive.Write(block.data(), static_cast<INT>(block.size()));
         archive << BYTE{9};
     };
@@ -208,45 +192,36 @@ TEST(BaseArchive, BufferOfAnySizeGivesTheSameBytes) {
     }
 }
 
-TEST(BaseArchive, BufferOfTheCallerIsUsed) {
+TEST(BaseArchive, FlushEmptiesTheBuffer) {
     BYTE buffer[8] = {};
     CMemFile file;
     CArchive archive(&file, CArchive::store, sizeof(buffer), buffer);
-    EXPECT_TRUE(archive.IsBufferEmpty());
     archive << BYTE{42};
     EXPECT_EQ(42, buffer[0]);
-    EXPECT_EQ(0u, file.GetLength());
-    EXPECT_FALSE(archive.IsBufferEmpty());
+    EXPECT_TRUE(file.GetLength() == 0 && !archive.IsBufferEmpty());
     archive.Flush();
-    EXPECT_EQ(1u, file.GetLength());
-}
-
-TEST(BaseArchive, FlushWhileLoadingReturnsWhatWasNotRead) {
-    Bytes bytes = {1, 2, 3, 4};
-    CMemFile file(bytes.data(), 4);
-    CArchive archive(&file, CArchive::load);
-    BYTE value = 0;
-    archive >> value;
-    archive.Close();
-    EXPECT_EQ(1u, file.GetPosition());
+    EXPECT_TRUE(file.GetLength() == 1 && archive.IsBufferEmpty());
+    BYTE bytes[] = {1, 2, 3, 4};
+    CMemFile source(bytes, 4);
+    CArchive loading(&source, CArchive::load);
+    loading >> bytes[0];
+    loading.Close();
+    EXPECT_EQ(1u, source.GetPosition()) << "what was not read is given back";
 }
 
 TEST(BaseArchive, DestructorWritesUnlessToldOtherwise) {
-    CMemFile written;
-    CMemFile aborted;
-    CMemFile unflushed;
+    CMemFile files[3];
     {
-        CArchive first(&written, CArchive::store);
-        CArchive second(&aborted, CArchive::store);
-        CArchive third(&unflushed, CArchive::store | CArchive::bNoFlushOnDelete);
-        first << 1;
-        second << 1;
-        third << 1;
-        second.Abort();
+        CArchive written(&files[0], CArchive::store);
+        CArchive aborted(&files[1], CArchive::store);
+        CArchive unflushed(&files[2], CArchive::store | CArchive::bNoFlushOnDelete);
+        for (CArchive* const archive : {&written, &aborted, &unflushed})
+            *archive << 1;
+        aborted.Abort();
     }
-    EXPECT_EQ(4u, written.GetLength());
-    EXPECT_EQ(0u, aborted.GetLength());
-    EXPECT_EQ(0u, unflushed.GetLength());
+    EXPECT_EQ(4u, files[0].GetLength());
+    EXPECT_EQ(0u, files[1].GetLength());
+    EXPECT_EQ(0u, files[2].GetLength());
 }
 
 TEST(BaseArchive, DirectionIsChecked) {
@@ -310,9 +285,8 @@ TEST(BaseArchiveObjects, IndicesBeyond16BitsAreLong) {
     CMemFile file;
     CArchive archive(&file, CArchive::store);
     std::vector<CTestNode> nodes(0x8000);
-    for (CTestNode& node : nodes) {
+    for (CTestNode& node : nodes)
         archive << &node;
-    }
     archive.Flush();
     const ULONGLONG end = file.GetLength();
     archive << &nodes[0x7FFE - 2] << &nodes[0x7FFF - 2];
@@ -405,9 +379,8 @@ TEST(BaseArchiveObjects, HostileTagsAreRefused) {
          {0xFF, 0xFF, 0, 0, 12, 0, 'C', 'S', 't', 'r', 'i', 'n', 'g', 'A', 'r', 'r', 'a', 'y'},
          CArchiveException::badClass},
     };
-    for (const Case& test : cases) {
+    for (const Case& test : cases)
         EXPECT_EQ(test.fault, Fault(test.bytes, LoadNode)) << test.name;
-    }
     const Bytes good = Joined(NodeHeader(), {5, 0, 0, 0, 0, 0});
     for (size_t size = 0; size < good.size(); ++size) {
         const Bytes cut(good.begin(), good.begin() + static_cast<ptrdiff_t>(size));
@@ -419,9 +392,8 @@ TEST(BaseArchiveObjects, HostileTagsAreRefused) {
 TEST(BaseArchiveObjects, NestingHasALimit) {
     const auto chain = [](int length) {
         Bytes bytes = NodeHeader();
-        for (int count = 1; count < length; ++count) {
+        for (int count = 1; count < length; ++count)
             bytes = Joined(std::move(bytes), {0, 0, 0, 0, 1, 0x80});
-        }
         return Joined(std::move(bytes), {0, 0, 0, 0, 0, 0});
     };
     const auto load = [](CArchive& archive) {

@@ -9,15 +9,13 @@
 
 #include <climits>
 #include <cstring>
-#include <string>
 #include <thread>
 #include <vector>
 
 namespace {
 
-std::string Text(const CString& string) {
-    return std::string(string.GetString(), static_cast<size_t>(string.GetLength()));
-}
+using Texts = std::vector<CString>;
+using Numbers = std::vector<int>;
 
 /// A copy of the test program with a string table of its own, loaded as data.
 class StringTable {
@@ -65,35 +63,22 @@ private:
 
 TEST(BaseString, IsMadeFromEveryKindOfText) {
     const char* const none = nullptr;
-    EXPECT_EQ("", Text(CString()));
-    EXPECT_EQ("", Text(CString(none)));
-    EXPECT_EQ("abc", Text(CString("abc")));
-    EXPECT_EQ("ab", Text(CString("abc", 2)));
-    EXPECT_EQ(std::string("a\0c", 3), Text(CString("a\0c", 3)));
-    EXPECT_EQ("xxx", Text(CString('x', 3)));
-    EXPECT_EQ("", Text(CString('x', -1)));
-    EXPECT_EQ("wide", Text(CString(L"wide")));
-    EXPECT_EQ("wi", Text(CString(L"wide", 2)));
-    EXPECT_EQ("yy", Text(CString(L'y', 2)));
+    const wchar_t umlaut[] = L"\u00e4\u0416"; // the second has no place in a Western code page
+    char narrow[16] = {};
+    ::WideCharToMultiByte(CP_ACP, 0, umlaut, -1, narrow, sizeof(narrow), nullptr, nullptr);
+    const Texts made = {CString(),           CString(none),    CString("abc", 2),
+                        CString('x', 3),     CString('x', -1), CString(L"wide"),
+                        CString(L"wide", 2), CString(L'y', 2), CString(umlaut)};
+    EXPECT_EQ((Texts{"", "", "ab", "xxx", "", "wide", "wi", "yy", narrow}), made);
+    EXPECT_TRUE(made.back() == umlaut);
+    const CString withNull("a\0c", 3);
+    EXPECT_EQ(0, std::memcmp("a\0c", withNull.GetString(), 4));
+    EXPECT_EQ(3, withNull.GetLength());
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { CString(none, 1); }));
     EXPECT_TRUE(Throws<CInvalidArgException>([] { CString("abc", -1); }));
-}
-
-TEST(BaseString, ConvertsWideTextThroughTheAnsiCodePage) {
-    const wchar_t wide[] = L"\u00e4\u0416"; // the second has no place in a Western code page
-    char expected[16] = {};
-    ::WideCharToMultiByte(CP_ACP, 0, wide, -1, expected, sizeof(expected), nullptr, nullptr);
-    CString text("?");
-    text = wide;
-    EXPECT_STREQ(expected, text);
-    EXPECT_TRUE(text == wide);
-}
-
-TEST(BaseString, IsOnePointerToItsCharacters) {
-    const CString text("abc");
-    const char* characters = nullptr;
-    std::memcpy(&characters, &text, sizeof(text));
-    EXPECT_STREQ("abc", characters);
+    const char* characters = nullptr; // the string is one pointer, as functions with "..." take it
+    std::memcpy(&characters, &made[2], sizeof(CString));
+    EXPECT_STREQ("ab", characters);
 }
 
 TEST(BaseString, CopiesShareTheirCharactersUntilOneChanges) {
@@ -120,9 +105,8 @@ TEST(BaseString, CopiesMayBeUsedByDifferentThreads) {
             }
         });
     }
-    for (std::thread& thread : threads) {
+    for (std::thread& thread : threads)
         thread.join();
-    }
     EXPECT_STREQ("shared", original);
 }
 
@@ -145,13 +129,13 @@ TEST(BaseString, BufferIsWrittenToDirectly) {
     std::strcpy(text.GetBuffer(10), "longer");
     EXPECT_GE(text.GetAllocLength(), 10);
     text.ReleaseBuffer();
-    EXPECT_EQ("longer", Text(text));
+    EXPECT_STREQ("longer", text);
     std::memcpy(text.GetBufferSetLength(2), "xy", 2);
-    EXPECT_EQ("xy", Text(text));
+    EXPECT_STREQ("xy", text);
     text.FreeExtra();
     EXPECT_EQ(2, text.GetAllocLength());
     text.ReleaseBuffer(1);
-    EXPECT_EQ("x", Text(text));
+    EXPECT_STREQ("x", text);
     // A buffer filled to the brim has no null before its end.
     char* const brim = text.GetBuffer(5);
     std::memset(brim, 'z', static_cast<size_t>(text.GetAllocLength()));
@@ -162,10 +146,8 @@ TEST(BaseString, BufferIsWrittenToDirectly) {
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.ReleaseBuffer(tooLong); }));
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.GetBuffer(-1); }));
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.Truncate(text.GetLength() + 1); }));
-}
 
-TEST(BaseString, IndicesAreChecked) {
-    CString text("abc");
+    text = "abc";
     EXPECT_EQ('c', text[2]);
     EXPECT_EQ('\0', text.GetAt(3));
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.GetAt(4); }));
@@ -176,14 +158,10 @@ TEST(BaseString, IndicesAreChecked) {
 TEST(BaseString, Compares) {
     const CString text("Banana");
     const char* const none = nullptr;
-    EXPECT_EQ(0, text.Compare("Banana"));
-    EXPECT_LT(text.Compare("Cherry"), 0);
-    EXPECT_GT(text.Compare("Apple"), 0);
-    EXPECT_GT(text.Compare(none), 0);
-    EXPECT_EQ(0, text.CompareNoCase("bANANA"));
-    EXPECT_NE(0, text.Compare("bANANA"));
-    EXPECT_EQ(0, text.Collate("Banana"));
-    EXPECT_EQ(0, text.CollateNoCase("banana"));
+    EXPECT_TRUE(text.Compare("Banana") == 0 && text.Compare("bANANA") != 0);
+    EXPECT_TRUE(text.Compare("Cherry") < 0 && text.Compare("Apple") > 0 && text.Compare(none) > 0);
+    EXPECT_TRUE(text.CompareNoCase("bANANA") == 0 && text.CompareNoCase("Apple") > 0);
+    EXPECT_TRUE(text.Collate("Banana") == 0 && text.CollateNoCase("banana") == 0);
     EXPECT_TRUE(text == "Banana" && "Banana" == text && text == L"Banana" && text != 'B');
     EXPECT_TRUE(CString('B') == 'B' && 'B' == CString('B'));
     EXPECT_TRUE(text < "Cherry" && "Apple" < text && text > "Apple" && "Cherry" > text);
@@ -193,31 +171,23 @@ TEST(BaseString, Compares) {
 
 TEST(BaseString, CutsOutParts) {
     const CString text("abcdef");
-    EXPECT_STREQ("cdef", text.Mid(2));
-    EXPECT_STREQ("cd", text.Mid(2, 2));
-    EXPECT_STREQ("ef", text.Mid(4, INT_MAX));
-    EXPECT_STREQ("", text.Mid(7, 1));
-    EXPECT_STREQ("ab", text.Mid(-5, 2));
-    EXPECT_STREQ("", text.Left(-1));
-    EXPECT_STREQ("ab", text.Left(2));
-    EXPECT_STREQ("abcdef", text.Left(100));
-    EXPECT_STREQ("ef", text.Right(2));
-    EXPECT_STREQ("abcdef", text.Right(100));
-    EXPECT_STREQ("abc", text.SpanIncluding("cba"));
-    EXPECT_STREQ("", text.SpanIncluding("b"));
-    EXPECT_STREQ("abc", text.SpanExcluding("xd"));
-    EXPECT_STREQ("abcdef", text.SpanExcluding(""));
+    EXPECT_EQ((Texts{"cdef", "cd", "ef", "", "ab", ""}),
+              (Texts{text.Mid(2), text.Mid(2, 2), text.Mid(4, INT_MAX), text.Mid(7, 1),
+                     text.Mid(-5, 2), text.Mid(2, -1)}));
+    EXPECT_EQ((Texts{"", "ab", "abcdef", "ef", "abcdef"}),
+              (Texts{text.Left(-1), text.Left(2), text.Left(100), text.Right(2), text.Right(100)}));
+    EXPECT_EQ((Texts{"abc", "", "abc", "abcdef"}),
+              (Texts{text.SpanIncluding("cba"), text.SpanIncluding("b"), text.SpanExcluding("xd"),
+                     text.SpanExcluding("")}));
 }
 
 TEST(BaseString, SplitsIntoTokens) {
     const CString text(" ,First Second,,Third ");
-    std::vector<std::string> tokens;
+    Texts tokens;
     int position = 0;
-    for (CString token = text.Tokenize(" ,", position); !token.IsEmpty();
-         token = text.Tokenize(" ,", position)) {
-        tokens.push_back(Text(token));
-    }
-    EXPECT_EQ((std::vector<std::string>{"First", "Second", "Third"}), tokens);
+    while (position >= 0)
+        tokens.push_back(text.Tokenize(" ,", position));
+    EXPECT_EQ((Texts{"First", "Second", "Third", ""}), tokens);
     EXPECT_EQ(-1, position);
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.Tokenize(",", position); }));
     position = 8;
@@ -226,9 +196,8 @@ TEST(BaseString, SplitsIntoTokens) {
 
 TEST(BaseString, GrowsByAppending) {
     CString text;
-    for (int index = 0; index < 1000; ++index) {
+    for (int index = 0; index < 1000; ++index)
         text += static_cast<char>('a' + index % 26);
-    }
     EXPECT_EQ(1000, text.GetLength());
     EXPECT_EQ('l', text[999]);
     text = "ab";
@@ -266,8 +235,8 @@ TEST(BaseString, Replaces) {
     EXPECT_EQ(2, text.Replace("one", "three"));
     EXPECT_STREQ("three two three", text);
     EXPECT_EQ(2, text.Replace("three", ""));
-    EXPECT_STREQ(" two ", text);
     EXPECT_EQ(0, text.Replace("", "x"));
+    EXPECT_STREQ(" two ", text);
     EXPECT_EQ(2, text.Replace(' ', '_'));
     EXPECT_EQ(0, text.Replace('_', '_'));
     EXPECT_EQ(1, text.Replace("two", "two two")); // what was put in is not searched again
@@ -275,48 +244,34 @@ TEST(BaseString, Replaces) {
 }
 
 TEST(BaseString, Trims) {
-    EXPECT_STREQ("a b", CString(" \t\r\na b \f\v").Trim());
-    EXPECT_STREQ("a ", CString("  a ").TrimLeft());
-    EXPECT_STREQ(" a", CString(" a  ").TrimRight());
-    EXPECT_STREQ("a-", CString("--a-").TrimLeft('-'));
-    EXPECT_STREQ("-a", CString("-a--").TrimRight('-'));
-    EXPECT_STREQ("a", CString("<>a><").Trim("<>"));
-    EXPECT_STREQ("", CString("---").Trim('-'));
-    EXPECT_STREQ("-a-", CString("-a-").Trim(""));
+    const Texts trimmed = {CString(" \t\r\na b \f\v").Trim(), CString("  a ").TrimLeft(),
+                           CString(" a  ").TrimRight(),       CString("--a-").TrimLeft('-'),
+                           CString("-a--").TrimRight('-'),    CString("<>a><").Trim("<>"),
+                           CString("---").Trim('-'),          CString("-a-").Trim("")};
+    EXPECT_EQ((Texts{"a b", "a ", " a", "a-", "-a", "a", "", "-a-"}), trimmed);
 }
 
 TEST(BaseString, Searches) {
     const CString text("abcabc");
-    EXPECT_EQ(1, text.Find('b'));
-    EXPECT_EQ(4, text.Find('b', 2));
-    EXPECT_EQ(-1, text.Find('b', 5));
-    EXPECT_EQ(-1, text.Find('\0'));
-    EXPECT_EQ(2, text.Find("ca"));
-    EXPECT_EQ(3, text.Find("abc", 1));
-    EXPECT_EQ(-1, text.Find("abc", 4));
-    EXPECT_EQ(-1, text.Find("abc", 7));
-    EXPECT_EQ(-1, text.Find("abc", -1));
-    EXPECT_EQ(4, text.ReverseFind('b'));
-    EXPECT_EQ(-1, text.ReverseFind('x'));
-    EXPECT_EQ(1, text.FindOneOf("xcb"));
-    EXPECT_EQ(-1, text.FindOneOf("xyz"));
+    EXPECT_EQ((Numbers{1, 4, -1, -1}),
+              (Numbers{text.Find('b'), text.Find('b', 2), text.Find('b', 5), text.Find('\0')}));
+    EXPECT_EQ((Numbers{2, 3, -1, -1, -1}),
+              (Numbers{text.Find("ca"), text.Find("abc", 1), text.Find("abc", 4),
+                       text.Find("abc", 7), text.Find("abc", -1)}));
+    EXPECT_EQ((Numbers{4, -1, 1, -1}), (Numbers{text.ReverseFind('b'), text.ReverseFind('x'),
+                                                text.FindOneOf("xcb"), text.FindOneOf("xyz")}));
 }
 
 TEST(BaseString, RespectsDoubleByteCharacters) {
     const ShiftJis codePage;
-    const char katakanaSo[] = "\x83\x5C"; // its second byte is a backslash
-    const CString text = CString("a") + katakanaSo + "\\" + katakanaSo;
-    EXPECT_EQ(3, text.Find('\\'));
-    EXPECT_EQ(3, text.ReverseFind('\\'));
-    EXPECT_EQ(1, text.Find(katakanaSo));
-    EXPECT_EQ(3, text.FindOneOf("\\"));
-    EXPECT_STREQ("a\x83\x5C", text.SpanExcluding("\\"));
-    EXPECT_STREQ("a\x83\x5C\\\x83\x5C", CString(text).TrimRight('\\'));
-    EXPECT_STREQ("a\x83\x5C\\", CString(text).TrimRight(katakanaSo));
-    EXPECT_EQ(1, CString(text).Remove('\\'));
-    EXPECT_STREQ("\x83\x5C\\\x83\x5C"
-                 "a",
-                 CString(text).MakeReverse());
+    const CString so("\x83\x5C"); // Katakana: its second byte is a backslash
+    const CString text = "a" + so + "\\" + so;
+    EXPECT_EQ((Numbers{3, 3, 1, 3, 1}),
+              (Numbers{text.Find('\\'), text.ReverseFind('\\'), text.Find(so), text.FindOneOf("\\"),
+                       CString(text).Remove('\\')}));
+    EXPECT_EQ((Texts{"a" + so, text, "a" + so + "\\", so + "\\" + so + "a"}),
+              (Texts{text.SpanExcluding("\\"), CString(text).TrimRight('\\'),
+                     CString(text).TrimRight(so), CString(text).MakeReverse()}));
 }
 
 TEST(BaseString, Formats) {
@@ -338,10 +293,8 @@ TEST(BaseString, LoadsResources) {
     const StringTable strings({3, '%', 'd', 0xE4, 0, 2, 'H', 'i', 50, 'x'});
     ASSERT_NE(nullptr, strings.module());
     CString text("unchanged");
-    EXPECT_FALSE(text.LoadString(strings.module(), 17));
-    EXPECT_FALSE(text.LoadString(strings.module(), 19));
-    EXPECT_FALSE(text.LoadString(strings.module(), 20));
-    EXPECT_FALSE(text.LoadString(strings.module(), 32));
+    for (const UINT id : {17, 19, 20, 32})
+        EXPECT_FALSE(text.LoadString(strings.module(), id)) << id;
     EXPECT_STREQ("unchanged", text);
     EXPECT_TRUE(text.LoadString(strings.module(), 18));
     EXPECT_STREQ("Hi", text);

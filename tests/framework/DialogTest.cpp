@@ -7,6 +7,7 @@
 #include <cstring>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "automation/RealInput.h"
@@ -37,7 +38,7 @@ public:
         EXPECT_TRUE(InitModalIndirect(m_template.Get(), parent));
     }
     std::function<void()> m_step;
-    std::function<BOOL()> m_onInit;
+    std::function<void()> m_onInit;
     std::function<LRESULT(LONG)> m_onIdle;
     int m_applied = 0;
     int m_keysSeen = 0;
@@ -47,8 +48,15 @@ public:
         CDialog::OnInitDialog();
         // The second post comes after whatever showing the dialog has posted.
         PostMessage(WM_STEP, 1);
-        return m_onInit ? m_onInit() : TRUE;
+        if (m_onInit)
+            m_onInit();
+        return TRUE;
     }
+    INT_PTR Run(std::function<void()> step) {
+        m_step = std::move(step);
+        return DoModal();
+    }
+    void Click(int id) { GetDlgItem(id)->SendMessage(BM_CLICK); }
     BOOL PreTranslateMessage(MSG* msg) override {
         m_keysSeen += msg->message == WM_KEYDOWN ? 1 : 0;
         return CDialog::PreTranslateMessage(msg);
@@ -92,8 +100,8 @@ TEST(ModalDialog, KeysAndButtonsEndIt) {
     } rows[] = {
         {"Enter", [](StepDialog&) { automation::TypeKey(VK_RETURN); }, IDOK},
         {"Escape", [](StepDialog&) { automation::TypeKey(VK_ESCAPE); }, IDCANCEL},
-        {"OK", [](StepDialog& d) { d.GetDlgItem(IDOK)->SendMessage(BM_CLICK); }, IDOK},
-        {"Cancel", [](StepDialog& d) { d.GetDlgItem(IDCANCEL)->SendMessage(BM_CLICK); }, IDCANCEL},
+        {"OK", [](StepDialog& d) { d.Click(IDOK); }, IDOK},
+        {"Cancel", [](StepDialog& d) { d.Click(IDCANCEL); }, IDCANCEL},
         {"Close", [](StepDialog& d) { d.SendMessage(WM_CLOSE); }, IDCANCEL},
         {"EndDialog", [](StepDialog& d) { d.EndDialog(77); }, 77},
         {"destroyed", [](StepDialog& d) { d.DestroyWindow(); }, -1},
@@ -101,44 +109,32 @@ TEST(ModalDialog, KeysAndButtonsEndIt) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         StepDialog dialog;
-        dialog.m_step = [&] { row.step(dialog); };
-        EXPECT_EQ(dialog.DoModal(), row.result);
+        EXPECT_EQ(dialog.Run([&] { row.step(dialog); }), row.result);
         EXPECT_EQ(dialog.m_hWnd, nullptr);
         EXPECT_EQ(dialog.m_ended, 1);
     }
 }
 
-TEST(ModalDialog, PreTranslateMessageSeesTheKeys) {
-    StepDialog dialog;
-    dialog.m_step = [&] {
-        automation::TypeKey('A');
-        automation::TypeKey(VK_TAB);
-        automation::TypeKey(VK_ESCAPE);
-    };
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    EXPECT_EQ(dialog.m_keysSeen, 3);
-}
-
-TEST(ModalDialog, EnterPressesTheDefaultButton) {
+TEST(ModalDialog, KeysPassPreTranslateMessageAndEnterPressesTheDefaultButton) {
     StepDialog dialog;
     dialog.m_onInit = [&] {
         EXPECT_EQ(dialog.GetDefID(), static_cast<DWORD>(MAKELONG(IDOK, DC_HASDEFID)));
         dialog.SetDefID(IDC_APPLY);
-        return TRUE;
     };
-    dialog.m_step = [&] {
-        automation::TypeKey(VK_RETURN);
-        automation::TypeKey(VK_ESCAPE);
-    };
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    const INT_PTR result = dialog.Run([] {
+        for (const WORD key : {WORD{'A'}, WORD{VK_RETURN}, WORD{VK_ESCAPE}})
+            automation::TypeKey(key);
+    });
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(dialog.m_keysSeen, 3);
     EXPECT_EQ(dialog.m_applied, 1);
 }
 
 TEST(ModalDialog, TheFocusMovesThroughTheControls) {
     StepDialog dialog;
     std::vector<int> order;
-    dialog.m_step = [&] {
-        const auto note = [&] { order.push_back(::GetDlgCtrlID(::GetFocus())); };
+    const auto note = [&] { order.push_back(::GetDlgCtrlID(::GetFocus())); };
+    dialog.Run([&] {
         note();
         dialog.NextDlgCtrl();
         note();
@@ -147,20 +143,15 @@ TEST(ModalDialog, TheFocusMovesThroughTheControls) {
         dialog.PrevDlgCtrl();
         note();
         dialog.EndDialog(1);
-    };
-    dialog.DoModal();
+    });
     EXPECT_EQ(order, (std::vector<int>{IDC_EDIT, IDOK, IDC_APPLY, IDCANCEL}));
 }
 
 TEST(ModalDialog, EndedBeforeItIsShown) {
     StepDialog dialog;
     int steps = 0;
-    dialog.m_step = [&] { ++steps; };
-    dialog.m_onInit = [&] {
-        dialog.EndDialog(5);
-        return TRUE;
-    };
-    EXPECT_EQ(dialog.DoModal(), 5);
+    dialog.m_onInit = [&] { dialog.EndDialog(5); };
+    EXPECT_EQ(dialog.Run([&] { ++steps; }), 5);
     EXPECT_EQ(steps, 0);
 }
 
@@ -179,10 +170,9 @@ TEST(ModalDialog, FailuresGiveTheDocumentedResults) {
 }
 
 TEST(ModalDialog, ATemplateInGlobalMemory) {
-    const DialogTemplate plain = PlainTemplate();
-    constexpr SIZE_T generous = 1024;
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, generous);
-    std::memcpy(::GlobalLock(memory), plain.Get(), 600);
+    constexpr DLGTEMPLATE empty = {WS_POPUP, 0, 0, 0, 0, 50, 50};
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 64);
+    std::memcpy(::GlobalLock(memory), &empty, sizeof(empty));
     ::GlobalUnlock(memory);
     class Once : public CDialog {
     public:
@@ -198,18 +188,15 @@ TEST(ModalDialog, ATemplateInGlobalMemory) {
 
 class OwnerWindow : public CWnd {
 public:
-    bool m_wasEnabled = true;
     int m_idleCalls = 0;
-    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
-        if (id == ID_GOSUB && code == CN_COMMAND && info == nullptr) {
-            ++m_gosubs;
-            return TRUE;
-        }
-        return CWnd::OnCmdMsg(id, code, extra, info);
-    }
     int m_gosubs = 0;
 
 protected:
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (id == ID_GOSUB && code == CN_COMMAND && info == nullptr)
+            return ++m_gosubs, TRUE;
+        return CWnd::OnCmdMsg(id, code, extra, info);
+    }
     afx_msg void OnEnterIdle(UINT why, CWnd* who) {
         EXPECT_EQ(why, static_cast<UINT>(MSGF_DIALOGBOX));
         EXPECT_NE(who, nullptr);
@@ -235,69 +222,51 @@ protected:
     OwnerWindow m_owner;
 };
 
-TEST_F(OwnedDialog, TheOwnerIsDisabledMeanwhileAndActiveAgainAfterwards) {
-    StepDialog dialog(&m_owner);
-    bool ownerEnabled = true;
-    HWND active = nullptr;
-    dialog.m_step = [&] {
-        ownerEnabled = m_owner.IsWindowEnabled() != FALSE;
-        active = ::GetActiveWindow();
-        EXPECT_EQ(active, dialog.m_hWnd);
-        dialog.EndDialog(1);
-    };
-    EXPECT_EQ(dialog.DoModal(), 1);
-    EXPECT_FALSE(ownerEnabled);
-    EXPECT_TRUE(m_owner.IsWindowEnabled());
-    EXPECT_EQ(::GetActiveWindow(), m_owner.m_hWnd);
-}
-
 TEST_F(OwnedDialog, IdleTimeIsOfferedToTheOwnerAndToTheDialog) {
     StepDialog dialog(&m_owner);
     dialog.m_onIdle = [&](LONG count) -> LRESULT {
-        if (count == 2) {
+        if (count == 2)
             dialog.EndDialog(1);
-        }
         return TRUE; // there is more to do
     };
     EXPECT_EQ(dialog.DoModal(), 1);
     EXPECT_GT(m_owner.m_idleCalls, 0);
 }
 
-TEST_F(OwnedDialog, DialogsNest) {
+TEST_F(OwnedDialog, OwnersAreDisabledMeanwhileAndActiveAgainAfterwards) {
     StepDialog outer(&m_owner);
     INT_PTR innerResult = 0;
-    outer.m_step = [&] {
+    const INT_PTR outerResult = outer.Run([&] {
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_EQ(::GetActiveWindow(), outer.m_hWnd);
         StepDialog inner(&outer);
-        inner.m_step = [&] {
-            EXPECT_FALSE(outer.IsWindowEnabled());
-            EXPECT_FALSE(m_owner.IsWindowEnabled());
+        innerResult = inner.Run([&] {
+            EXPECT_FALSE(outer.IsWindowEnabled() || m_owner.IsWindowEnabled());
             automation::TypeKey(VK_ESCAPE);
-        };
-        innerResult = inner.DoModal();
+        });
         EXPECT_TRUE(outer.IsWindowEnabled());
         EXPECT_FALSE(m_owner.IsWindowEnabled());
         EXPECT_EQ(::GetActiveWindow(), outer.m_hWnd);
         automation::TypeKey(VK_RETURN);
-    };
-    EXPECT_EQ(outer.DoModal(), IDOK);
+    });
+    EXPECT_EQ(outerResult, IDOK);
     EXPECT_EQ(innerResult, IDCANCEL);
     EXPECT_TRUE(m_owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), m_owner.m_hWnd);
 }
 
 TEST_F(OwnedDialog, ACommandButtonGivesTheCommandToTheOwner) {
     StepDialog dialog(&m_owner);
-    dialog.m_step = [&] {
-        dialog.GetDlgItem(ID_GOSUB)->SendMessage(BM_CLICK);
+    dialog.Run([&] {
+        dialog.Click(ID_GOSUB);
         dialog.EndDialog(1);
-    };
-    dialog.DoModal();
+    });
     EXPECT_EQ(m_owner.m_gosubs, 1);
 }
 
 TEST_F(OwnedDialog, TheEndOfTheProgramEndsTheDialog) {
     StepDialog dialog(&m_owner);
-    dialog.m_step = [] { ::PostQuitMessage(3); };
-    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.Run([] { ::PostQuitMessage(3); }), -1);
     MSG msg = {};
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(msg.wParam, 3U); // the loop outside ends, too
@@ -329,16 +298,13 @@ public:
         m_boxes.push_back(text);
         return IDOK;
     }
-    LRESULT ProcessWndProcException(CException*, const MSG*) override {
-        ++m_exceptions;
-        return 0;
-    }
+    LRESULT ProcessWndProcException(CException*, const MSG*) override { return ++m_exceptions, 0; }
 };
 
 TEST(ModalDialog, AnExceptionInOnInitDialogEndsIt) {
     NotingApp app;
     StepDialog dialog;
-    dialog.m_onInit = []() -> BOOL { AfxThrowResourceException(); };
+    dialog.m_onInit = [] { AfxThrowResourceException(); };
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_EQ(app.m_exceptions, 1);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
@@ -367,15 +333,14 @@ public:
             SendDlgItemMessage(IDC_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
             SendDlgItemMessage(IDC_COMBO, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
         }
-        SetScrollRangeOfBar();
+        ::SetScrollRange(::GetDlgItem(m_hWnd, IDC_SCROLL), SB_CTL, 0, 50, FALSE);
         m_changes = 0;
     }
     ~DataDialog() override { DestroyWindow(); }
 
     /// One exchange with one call.
-    template <class Call>
-    BOOL Exchange(BOOL save, Call call) {
-        m_exchange = call;
+    BOOL Exchange(BOOL save, std::function<void(CDataExchange*)> call) {
+        m_exchange = std::move(call);
         return UpdateData(save);
     }
     CString Text(int id) {
@@ -387,17 +352,13 @@ public:
 protected:
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
-        if (m_exchange) {
+        if (m_exchange)
             m_exchange(exchange);
-        }
     }
     afx_msg void OnChange() { ++m_changes; }
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SetScrollRangeOfBar() {
-        ::SetScrollRange(::GetDlgItem(m_hWnd, IDC_SCROLL), SB_CTL, 0, 50, FALSE);
-    }
     DialogTemplate m_template{"data", 150, 110};
 };
 
@@ -421,6 +382,28 @@ protected:
         EXPECT_EQ(value, accepted ? saved : loaded) << typed;
     }
 
+    /// Loads one value into a control, then saves into another: what comes back.
+    template <class Ddx, class T>
+    T Through(Ddx ddx, int id, T value, T before) {
+        EXPECT_TRUE(m_dialog.Exchange(FALSE, [&](CDataExchange* dx) { ddx(dx, id, value); }));
+        value = before;
+        EXPECT_TRUE(m_dialog.Exchange(TRUE, [&](CDataExchange* dx) { ddx(dx, id, value); }));
+        return value;
+    }
+
+    /// Checks the last value that is accepted and the first that is refused.
+    template <class T, class Ddv>
+    void ExpectLimit(const char* name, Ddv ddv, T last, T first, T minimum, T maximum) {
+        SCOPED_TRACE(name);
+        const auto refused = [&](CDataExchange* dx) { ddv(dx, first, minimum, maximum); };
+        m_app.m_boxes.clear();
+        EXPECT_TRUE(
+            m_dialog.Exchange(TRUE, [&](CDataExchange* dx) { ddv(dx, last, minimum, maximum); }));
+        EXPECT_FALSE(m_dialog.Exchange(TRUE, refused));
+        EXPECT_TRUE(m_dialog.Exchange(FALSE, refused)) << "only data to be saved is checked";
+        EXPECT_EQ(m_app.m_boxes.size(), 1U);
+    }
+
     NotingApp m_app;
     DataDialog m_dialog;
 };
@@ -441,6 +424,7 @@ TEST_F(DataExchange, NumbersAsText) {
     RoundTrip<LONGLONG>(-9, "-9", "9223372036854775807", true, 9223372036854775807LL);
     RoundTrip<LONGLONG>(1, "1", "9223372036854775808", false, 0);
     RoundTrip<ULONGLONG>(9, "9", "18446744073709551615", true, 18446744073709551615ULL);
+    RoundTrip<ULONGLONG>(1, "1", "-1", false, 0);
     RoundTrip<float>(0.5F, "0.5", "1.25", true, 1.25F);
     RoundTrip<double>(1.0 / 8, "0.125", "1e3", true, 1000.0);
     RoundTrip<double>(1, "1", "1e999", false, 0);
@@ -462,37 +446,15 @@ TEST_F(DataExchange, TextIntoABuffer) {
 }
 
 TEST_F(DataExchange, ButtonsAndScrollBars) {
-    int value = BST_INDETERMINATE;
-    const auto check = [&](CDataExchange* dx) { DDX_Check(dx, IDC_CHECK, value); };
-    m_dialog.Exchange(FALSE, check);
+    EXPECT_EQ(Through(DDX_Check, IDC_CHECK, int{BST_INDETERMINATE}, 0), BST_INDETERMINATE);
     EXPECT_EQ(m_dialog.IsDlgButtonChecked(IDC_CHECK), static_cast<UINT>(BST_INDETERMINATE));
-    m_dialog.CheckDlgButton(IDC_CHECK, BST_CHECKED);
-    m_dialog.Exchange(TRUE, check);
-    EXPECT_EQ(value, BST_CHECKED);
-    value = 17;
-    m_dialog.Exchange(FALSE, check);
-    EXPECT_EQ(m_dialog.IsDlgButtonChecked(IDC_CHECK), static_cast<UINT>(BST_UNCHECKED));
-
-    const auto radio = [&](CDataExchange* dx) { DDX_Radio(dx, IDC_RADIO1, value); };
-    value = 1;
-    m_dialog.Exchange(FALSE, radio);
+    EXPECT_EQ(Through(DDX_Check, IDC_CHECK, int{BST_CHECKED}, 0), BST_CHECKED);
+    EXPECT_EQ(Through(DDX_Check, IDC_CHECK, 17, 17), BST_UNCHECKED);
+    EXPECT_EQ(Through(DDX_Radio, IDC_RADIO1, 1, 0), 1);
     EXPECT_EQ(m_dialog.GetCheckedRadioButton(IDC_RADIO1, IDC_RADIO2), IDC_RADIO2);
-    value = 0;
-    m_dialog.Exchange(TRUE, radio);
-    EXPECT_EQ(value, 1);
-    value = -1;
-    m_dialog.Exchange(FALSE, radio);
+    EXPECT_EQ(Through(DDX_Radio, IDC_RADIO1, -1, 5), -1);
     EXPECT_EQ(m_dialog.GetCheckedRadioButton(IDC_RADIO1, IDC_RADIO2), 0);
-    value = 5;
-    m_dialog.Exchange(TRUE, radio);
-    EXPECT_EQ(value, -1);
-
-    const auto scroll = [&](CDataExchange* dx) { DDX_Scroll(dx, IDC_SCROLL, value); };
-    value = 20;
-    m_dialog.Exchange(FALSE, scroll);
-    value = 0;
-    m_dialog.Exchange(TRUE, scroll);
-    EXPECT_EQ(value, 20);
+    EXPECT_EQ(Through(DDX_Scroll, IDC_SCROLL, 20, 0), 20);
 }
 
 TEST_F(DataExchange, Lists) {
@@ -511,73 +473,36 @@ TEST_F(DataExchange, Lists) {
         {&DDX_CBStringExact, IDC_COMBO, "plum", "plum"},
         {&DDX_CBStringExact, IDC_COMBO, "apr", "apr"},
     };
-    for (const auto& row : strings) {
-        SCOPED_TRACE(row.loaded);
-        CString value = row.loaded;
-        const auto call = [&](CDataExchange* dx) { row.call(dx, row.id, value); };
-        EXPECT_TRUE(m_dialog.Exchange(FALSE, call));
-        EXPECT_TRUE(m_dialog.Exchange(TRUE, call));
-        EXPECT_EQ(value, row.saved);
-    }
-    for (const int id : {IDC_LIST, IDC_COMBO}) {
-        int index = 1;
-        const auto call = [&](CDataExchange* dx) {
-            id == IDC_LIST ? DDX_LBIndex(dx, id, index) : DDX_CBIndex(dx, id, index);
-        };
-        m_dialog.Exchange(FALSE, call);
-        index = 0;
-        m_dialog.Exchange(TRUE, call);
-        EXPECT_EQ(index, 1);
-        index = -1;
-        m_dialog.Exchange(FALSE, call);
-        m_dialog.Exchange(TRUE, call);
-        EXPECT_EQ(index, LB_ERR);
-    }
+    for (const auto& row : strings)
+        EXPECT_EQ(Through(row.call, row.id, CString(row.loaded), CString("x")), row.saved);
+    EXPECT_EQ(Through(DDX_LBIndex, IDC_LIST, 1, 0), 1);
+    EXPECT_EQ(Through(DDX_LBIndex, IDC_LIST, -1, 0), LB_ERR);
+    EXPECT_EQ(Through(DDX_CBIndex, IDC_COMBO, 1, 0), 1);
+    EXPECT_EQ(Through(DDX_CBIndex, IDC_COMBO, -1, 0), CB_ERR);
     CString none = "x";
     m_dialog.SendDlgItemMessage(IDC_LIST, LB_SETCURSEL, static_cast<WPARAM>(-1));
     m_dialog.Exchange(TRUE, [&](CDataExchange* dx) { DDX_LBString(dx, IDC_LIST, none); });
     EXPECT_TRUE(none.IsEmpty());
 }
 
-TEST_F(DataExchange, RangesInPairs) {
-    const struct {
-        const char* name;
-        std::function<void(CDataExchange*)> last;  ///< the last accepted
-        std::function<void(CDataExchange*)> first; ///< the first refused
-    } rows[] = {
-        {"byte", [](auto* dx) { DDV_MinMaxByte(dx, 9, 1, 9); },
-         [](auto* dx) { DDV_MinMaxByte(dx, 10, 1, 9); }},
-        {"short", [](auto* dx) { DDV_MinMaxShort(dx, -9, -9, 9); },
-         [](auto* dx) { DDV_MinMaxShort(dx, -10, -9, 9); }},
-        {"int", [](auto* dx) { DDV_MinMaxInt(dx, 9, -9, 9); },
-         [](auto* dx) { DDV_MinMaxInt(dx, 10, -9, 9); }},
-        {"long", [](auto* dx) { DDV_MinMaxLong(dx, -9, -9, 9); },
-         [](auto* dx) { DDV_MinMaxLong(dx, -10, -9, 9); }},
-        {"UINT", [](auto* dx) { DDV_MinMaxUInt(dx, 4000000000U, 1, 4000000000U); },
-         [](auto* dx) { DDV_MinMaxUInt(dx, 4000000001U, 1, 4000000000U); }},
-        {"unsigned", [](auto* dx) { DDV_MinMaxUnsigned(dx, 1, 1, 2); },
-         [](auto* dx) { DDV_MinMaxUnsigned(dx, 0, 1, 2); }},
-        {"DWORD", [](auto* dx) { DDV_MinMaxDWord(dx, 2, 1, 2); },
-         [](auto* dx) { DDV_MinMaxDWord(dx, 3, 1, 2); }},
-        {"LONGLONG", [](auto* dx) { DDV_MinMaxLongLong(dx, 1LL << 40, 0, 1LL << 40); },
-         [](auto* dx) { DDV_MinMaxLongLong(dx, (1LL << 40) + 1, 0, 1LL << 40); }},
-        {"ULONGLONG", [](auto* dx) { DDV_MinMaxULongLong(dx, 1ULL << 63, 0, 1ULL << 63); },
-         [](auto* dx) { DDV_MinMaxULongLong(dx, (1ULL << 63) + 1, 0, 1ULL << 63); }},
-        {"float", [](auto* dx) { DDV_MinMaxFloat(dx, 1.5F, 0, 1.5F); },
-         [](auto* dx) { DDV_MinMaxFloat(dx, 1.75F, 0, 1.5F); }},
-        {"double", [](auto* dx) { DDV_MinMaxDouble(dx, 0.5, 0.5, 1); },
-         [](auto* dx) { DDV_MinMaxDouble(dx, 0.25, 0.5, 1); }},
-        {"string", [](auto* dx) { DDV_MaxChars(dx, "abc", 3); },
-         [](auto* dx) { DDV_MaxChars(dx, "abcd", 3); }},
+TEST_F(DataExchange, LimitsAreInclusive) {
+    ExpectLimit<BYTE>("byte", DDV_MinMaxByte, 9, 10, 1, 9);
+    ExpectLimit<short>("short", DDV_MinMaxShort, -9, -10, -9, 9);
+    ExpectLimit<int>("int", DDV_MinMaxInt, 9, 10, -9, 9);
+    ExpectLimit<long>("long", DDV_MinMaxLong, -9, -10, -9, 9);
+    ExpectLimit<UINT>("UINT", DDV_MinMaxUInt, 4000000000U, 4000000001U, 1, 4000000000U);
+    ExpectLimit<unsigned>("unsigned", DDV_MinMaxUnsigned, 1, 0, 1, 2);
+    ExpectLimit<DWORD>("DWORD", DDV_MinMaxDWord, 2, 3, 1, 2);
+    ExpectLimit<LONGLONG>("LONGLONG", DDV_MinMaxLongLong, 1LL << 40, (1LL << 40) + 1, 0, 1LL << 40);
+    ExpectLimit<ULONGLONG>("ULONGLONG", DDV_MinMaxULongLong, 1ULL << 63, (1ULL << 63) + 1, 0,
+                           1ULL << 63);
+    ExpectLimit<float>("float", DDV_MinMaxFloat, 1.5F, 1.75F, 0, 1.5F);
+    ExpectLimit<double>("double", DDV_MinMaxDouble, 0.5, 0.25, 0.5, 1);
+    const auto characters = [](CDataExchange* dx, const char* text, const char*, const char*) {
+        DDV_MaxChars(dx, text, 3);
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        m_app.m_boxes.clear();
-        EXPECT_TRUE(m_dialog.Exchange(TRUE, row.last));
-        EXPECT_FALSE(m_dialog.Exchange(TRUE, row.first));
-        EXPECT_TRUE(m_dialog.Exchange(FALSE, row.first)) << "only data to be saved is checked";
-        EXPECT_EQ(m_app.m_boxes.size(), 1U);
-    }
+    ExpectLimit<const char*>("string", characters, "abc", "abcd", "", "");
+    ASSERT_EQ(m_app.m_boxes.size(), 1U);
     EXPECT_EQ(m_app.m_boxes[0], "Please enter no more than 3 characters.");
 }
 
@@ -593,19 +518,25 @@ TEST_F(DataExchange, AFailureShowsWhere) {
         after = true;
     }));
     EXPECT_FALSE(after);
-    EXPECT_EQ(m_app.m_boxes.back(), "Please enter an integer between 1 and 9.");
+    EXPECT_EQ(m_app.m_boxes,
+              (std::vector<std::string>{"Please enter an integer between 1 and 9."}));
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_TEXT);
     const auto selection = static_cast<DWORD>(m_dialog.SendDlgItemMessage(IDC_TEXT, EM_GETSEL));
     EXPECT_EQ(selection, static_cast<DWORD>(MAKELONG(0, 2)));
 }
 
-TEST_F(DataExchange, MaxCharsLimitsTheEditControl) {
+TEST_F(DataExchange, LoadingLimitsTheTextAndKeepsNotificationsAway) {
     CString value = "ab";
+    m_dialog.SetDlgItemText(IDC_TEXT, "typed");
+    EXPECT_EQ(m_dialog.m_changes, 1);
     m_dialog.Exchange(FALSE, [&](CDataExchange* dx) {
         DDX_Text(dx, IDC_TEXT, value);
         DDV_MaxChars(dx, value, 3);
     });
     EXPECT_EQ(m_dialog.SendDlgItemMessage(IDC_TEXT, EM_GETLIMITTEXT), 3);
+    EXPECT_EQ(m_dialog.m_changes, 1);
+    m_dialog.SetDlgItemText(IDC_TEXT, "again");
+    EXPECT_EQ(m_dialog.m_changes, 2);
 }
 
 TEST_F(DataExchange, ControlsAreSubclassedOnce) {
@@ -629,49 +560,21 @@ TEST_F(DataExchange, ControlsAreSubclassedOnce) {
     edit.UnsubclassWindow();
 }
 
-TEST_F(DataExchange, NotificationsStayAwayDuringTheExchange) {
-    CString value = "loaded";
-    m_dialog.SetDlgItemText(IDC_TEXT, "typed");
-    EXPECT_EQ(m_dialog.m_changes, 1);
-    m_dialog.Exchange(FALSE, [&](CDataExchange* dx) { DDX_Text(dx, IDC_TEXT, value); });
-    EXPECT_EQ(m_dialog.m_changes, 1);
-    m_dialog.SetDlgItemText(IDC_TEXT, "again");
-    EXPECT_EQ(m_dialog.m_changes, 2);
-}
-
 // ---- Initial contents ---------------------------------------------------------------------------
 
-/// Writes an RT_DLGINIT resource.
-class DlgInit {
-public:
-    DlgInit& Entry(WORD id, WORD message, const std::string& text) {
-        Put(id);
-        Put(message);
-        Put(static_cast<DWORD>(text.size() + 1));
-        m_data.insert(m_data.end(), text.c_str(), text.c_str() + text.size() + 1);
-        return *this;
-    }
-    std::vector<char> Ended() {
-        Put(WORD{0});
-        return m_data;
-    }
-
-private:
-    template <class T>
-    void Put(T value) {
-        const auto* const bytes = reinterpret_cast<const char*>(&value);
-        m_data.insert(m_data.end(), bytes, bytes + sizeof(value));
-    }
-    std::vector<char> m_data;
-};
+/// An entry of an RT_DLGINIT resource, which ends with a null identifier.
+std::string InitEntry(WORD id, WORD message, const std::string& text) {
+    const DWORD size = static_cast<DWORD>(text.size() + 1);
+    const WORD words[] = {id, message, LOWORD(size), HIWORD(size)};
+    return std::string(reinterpret_cast<const char*>(words), sizeof(words)) + text + '\0';
+}
+const std::string InitEnd(2, '\0');
 
 TEST_F(DataExchange, InitialContentsOfLists) {
-    std::vector<char> data = DlgInit()
-                                 .Entry(IDC_COMBO, 0x0403, "pear")
-                                 .Entry(IDC_COMBO, CB_ADDSTRING, "quince")
-                                 .Entry(IDC_LIST, LB_ADDSTRING, "rhubarb")
-                                 .Entry(IDC_TEXT, WM_SETTEXT, "not a list")
-                                 .Ended();
+    std::string data = InitEntry(IDC_COMBO, 0x0403, "pear") +
+                       InitEntry(IDC_COMBO, CB_ADDSTRING, "quince") +
+                       InitEntry(IDC_LIST, LB_ADDSTRING, "rhubarb") +
+                       InitEntry(IDC_TEXT, WM_SETTEXT, "no list") + InitEnd;
     EXPECT_TRUE(m_dialog.ExecuteDlgInit(static_cast<LPVOID>(data.data())));
     EXPECT_EQ(m_dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT), 5);
     EXPECT_EQ(m_dialog.SendDlgItemMessage(IDC_LIST, LB_GETCOUNT), 4);
@@ -680,9 +583,9 @@ TEST_F(DataExchange, InitialContentsOfLists) {
 }
 
 TEST_F(DataExchange, InitialContentsThatClaimTooMuch) {
-    std::vector<char> data = DlgInit().Entry(IDC_COMBO, CB_ADDSTRING, "pear").Ended();
+    std::string data = InitEntry(IDC_COMBO, CB_ADDSTRING, "pear") + InitEnd;
     const DWORD length = 0x7FFFFFFF;
-    std::memcpy(data.data() + 2 * sizeof(WORD), &length, sizeof(length));
+    std::memcpy(&data[0] + 2 * sizeof(WORD), &length, sizeof(length));
     m_dialog.ExecuteDlgInit(static_cast<LPVOID>(data.data()));
     EXPECT_EQ(m_dialog.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT), 3);
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Message maps: which handler is called, with which arguments, and who is asked first.
+#include "CallLog.h"
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
-#include <vector>
+#include <type_traits>
 
 namespace {
 
@@ -17,337 +17,201 @@ constexpr WPARAM W = 0x00120034;
 constexpr LPARAM L = 0x00560078;
 
 // clang-format off
-// One line for each macro, by the number of its handler's arguments: macro, handler, result, types
-// of the arguments, message, and the arguments it is to be called with (hexadecimal; a wrapper is
-// shown with its class, any other pointer or handle with a p).
-#define ROWS0(X) \
-    X(ON_WM_DESTROY, OnDestroy, void, WM_DESTROY, "") \
-    X(ON_WM_NCDESTROY, OnNcDestroy, void, WM_NCDESTROY, "") \
-    X(ON_WM_CLOSE, OnClose, void, WM_CLOSE, "") \
-    X(ON_WM_QUERYOPEN, OnQueryOpen, BOOL, WM_QUERYOPEN, "") \
-    X(ON_WM_CHILDACTIVATE, OnChildActivate, void, WM_CHILDACTIVATE, "") \
-    X(ON_WM_CANCELMODE, OnCancelMode, void, WM_CANCELMODE, "") \
-    X(ON_WM_ENTERSIZEMOVE, OnEnterSizeMove, void, WM_ENTERSIZEMOVE, "") \
-    X(ON_WM_EXITSIZEMOVE, OnExitSizeMove, void, WM_EXITSIZEMOVE, "") \
-    X(ON_WM_PAINT, OnPaint, void, WM_PAINT, "") \
-    X(ON_WM_NCPAINT, OnNcPaint, void, WM_NCPAINT, "") \
-    X(ON_WM_QUERYDRAGICON, OnQueryDragIcon, HCURSOR, WM_QUERYDRAGICON, "") \
-    X(ON_WM_QUERYNEWPALETTE, OnQueryNewPalette, BOOL, WM_QUERYNEWPALETTE, "") \
-    X(ON_WM_GETDLGCODE, OnGetDlgCode, UINT, WM_GETDLGCODE, "") \
-    X(ON_WM_MOUSELEAVE, OnMouseLeave, void, WM_MOUSELEAVE, "") \
-    X(ON_WM_NCMOUSELEAVE, OnNcMouseLeave, void, WM_NCMOUSELEAVE, "") \
-    X(ON_WM_QUERYUISTATE, OnQueryUIState, UINT, WM_QUERYUISTATE, "") \
-    X(ON_WM_SYSCOLORCHANGE, OnSysColorChange, void, WM_SYSCOLORCHANGE, "") \
-    X(ON_WM_FONTCHANGE, OnFontChange, void, WM_FONTCHANGE, "") \
-    X(ON_WM_TIMECHANGE, OnTimeChange, void, WM_TIMECHANGE, "") \
-    X(ON_WM_USERCHANGED, OnUserChanged, void, WM_USERCHANGED, "") \
-    X(ON_WM_QUERYENDSESSION, OnQueryEndSession, BOOL, WM_QUERYENDSESSION, "") \
-    X(ON_WM_DWMCOMPOSITIONCHANGED, OnCompositionChanged, void, WM_DWMCOMPOSITIONCHANGED, "") \
-    X(ON_WM_CLIPBOARDUPDATE, OnClipboardUpdate, void, WM_CLIPBOARDUPDATE, "") \
-    X(ON_WM_DESTROYCLIPBOARD, OnDestroyClipboard, void, WM_DESTROYCLIPBOARD, "") \
-    X(ON_WM_DRAWCLIPBOARD, OnDrawClipboard, void, WM_DRAWCLIPBOARD, "") \
-    X(ON_WM_RENDERALLFORMATS, OnRenderAllFormats, void, WM_RENDERALLFORMATS, "")
+// Each macro of a window message: handler, name of macro and message, signature, and the arguments
+// it is to be called with (hexadecimal; a wrapper is shown with its class, any other pointer or
+// handle with a p).
+#define EACH_WINDOW_MESSAGE(X) \
+    X(OnDestroy, DESTROY, void(), "") X(OnNcDestroy, NCDESTROY, void(), "") \
+    X(OnClose, CLOSE, void(), "") X(OnQueryOpen, QUERYOPEN, BOOL(), "") \
+    X(OnChildActivate, CHILDACTIVATE, void(), "") X(OnCancelMode, CANCELMODE, void(), "") \
+    X(OnEnterSizeMove, ENTERSIZEMOVE, void(), "") X(OnExitSizeMove, EXITSIZEMOVE, void(), "") \
+    X(OnPaint, PAINT, void(), "") X(OnNcPaint, NCPAINT, void(), "") \
+    X(OnQueryDragIcon, QUERYDRAGICON, HCURSOR(), "") \
+    X(OnQueryNewPalette, QUERYNEWPALETTE, BOOL(), "") \
+    X(OnGetDlgCode, GETDLGCODE, UINT(), "") X(OnMouseLeave, MOUSELEAVE, void(), "") \
+    X(OnNcMouseLeave, NCMOUSELEAVE, void(), "") X(OnQueryUIState, QUERYUISTATE, UINT(), "") \
+    X(OnSysColorChange, SYSCOLORCHANGE, void(), "") X(OnFontChange, FONTCHANGE, void(), "") \
+    X(OnTimeChange, TIMECHANGE, void(), "") X(OnUserChanged, USERCHANGED, void(), "") \
+    X(OnQueryEndSession, QUERYENDSESSION, BOOL(), "") \
+    X(OnCompositionChanged, DWMCOMPOSITIONCHANGED, void(), "") \
+    X(OnClipboardUpdate, CLIPBOARDUPDATE, void(), "") \
+    X(OnDestroyClipboard, DESTROYCLIPBOARD, void(), "") \
+    X(OnDrawClipboard, DRAWCLIPBOARD, void(), "") \
+    X(OnRenderAllFormats, RENDERALLFORMATS, void(), "") \
+    X(OnCreate, CREATE, int(LPCREATESTRUCT), "p560078") \
+    X(OnNcCreate, NCCREATE, BOOL(LPCREATESTRUCT), "p560078") \
+    X(OnNcActivate, NCACTIVATE, BOOL(BOOL), "120034") \
+    X(OnSetFocus, SETFOCUS, void(CWnd*), "CWnd:120034") \
+    X(OnKillFocus, KILLFOCUS, void(CWnd*), "CWnd:120034") \
+    X(OnEnable, ENABLE, void(BOOL), "120034") \
+    X(OnCaptureChanged, CAPTURECHANGED, void(CWnd*), "CWnd:560078") \
+    X(OnGetMinMaxInfo, GETMINMAXINFO, void(MINMAXINFO*), "p560078") \
+    X(OnWindowPosChanging, WINDOWPOSCHANGING, void(WINDOWPOS*), "p560078") \
+    X(OnWindowPosChanged, WINDOWPOSCHANGED, void(WINDOWPOS*), "p560078") \
+    X(OnEraseBkgnd, ERASEBKGND, BOOL(CDC*), "CDC:120034") \
+    X(OnIconEraseBkgnd, ICONERASEBKGND, void(CDC*), "CDC:120034") \
+    X(OnPaletteChanged, PALETTECHANGED, void(CWnd*), "CWnd:120034") \
+    X(OnPaletteIsChanging, PALETTEISCHANGING, void(CWnd*), "CWnd:120034") \
+    X(OnHelpInfo, HELPINFO, BOOL(HELPINFO*), "p560078") \
+    X(OnInputDeviceChange, INPUT_DEVICE_CHANGE, void(unsigned short), "34") \
+    X(OnNcHitTest, NCHITTEST, LRESULT(CPoint), "(78,56)") \
+    X(OnTimer, TIMER, void(UINT_PTR), "120034") \
+    X(OnInitMenu, INITMENU, void(CMenu*), "CMenu:120034") \
+    X(OnMenuGetObject, MENUGETOBJECT, UINT(MENUGETOBJECTINFO*), "p560078") \
+    X(OnEnterMenuLoop, ENTERMENULOOP, void(BOOL), "120034") \
+    X(OnExitMenuLoop, EXITMENULOOP, void(BOOL), "120034") \
+    X(OnDevModeChange, DEVMODECHANGE, void(LPTSTR), "p560078") \
+    X(OnCompacting, COMPACTING, void(UINT), "120034") \
+    X(OnEndSession, ENDSESSION, void(BOOL), "120034") \
+    X(OnNcRenderingChanged, DWMNCRENDERINGCHANGED, void(BOOL), "120034") \
+    X(OnWindowMaximizedChanged, DWMWINDOWMAXIMIZEDCHANGE, void(BOOL), "120034") \
+    X(OnRenderFormat, RENDERFORMAT, void(UINT), "120034") \
+    X(OnDropFiles, DROPFILES, void(HDROP), "p120034") \
+    X(OnParentNotify, PARENTNOTIFY, void(UINT, LPARAM), "120034 560078") \
+    X(OnActivateApp, ACTIVATEAPP, void(BOOL, DWORD), "120034 560078") \
+    X(OnEnterIdle, ENTERIDLE, void(UINT, CWnd*), "120034 CWnd:560078") \
+    X(OnSizing, SIZING, void(UINT, LPRECT), "120034 p560078") \
+    X(OnMove, MOVE, void(int, int), "78 56") \
+    X(OnMoving, MOVING, void(UINT, LPRECT), "120034 p560078") \
+    X(OnShowWindow, SHOWWINDOW, void(BOOL, UINT), "120034 560078") \
+    X(OnStyleChanging, STYLECHANGING, void(int, LPSTYLESTRUCT), "120034 p560078") \
+    X(OnStyleChanged, STYLECHANGED, void(int, LPSTYLESTRUCT), "120034 p560078") \
+    X(OnNcCalcSize, NCCALCSIZE, void(BOOL, NCCALCSIZE_PARAMS*), "120034 p560078") \
+    X(OnDrawItem, DRAWITEM, void(int, LPDRAWITEMSTRUCT), "120034 p560078") \
+    X(OnMeasureItem, MEASUREITEM, void(int, LPMEASUREITEMSTRUCT), "120034 p560078") \
+    X(OnCompareItem, COMPAREITEM, int(int, LPCOMPAREITEMSTRUCT), "120034 p560078") \
+    X(OnDeleteItem, DELETEITEM, void(int, LPDELETEITEMSTRUCT), "120034 p560078") \
+    X(OnInputLangChange, INPUTLANGCHANGE, void(UINT, UINT), "120034 560078") \
+    X(OnInputLangChangeRequest, INPUTLANGCHANGEREQUEST, void(UINT, UINT), "120034 560078") \
+    X(OnMouseMove, MOUSEMOVE, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnMouseHover, MOUSEHOVER, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnLButtonDown, LBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnLButtonUp, LBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnLButtonDblClk, LBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnRButtonDown, RBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnRButtonUp, RBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnRButtonDblClk, RBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnMButtonDown, MBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnMButtonUp, MBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnMButtonDblClk, MBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnRawInput, INPUT, void(UINT, HRAWINPUT), "120034 p560078") \
+    X(OnNcMouseMove, NCMOUSEMOVE, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcMouseHover, NCMOUSEHOVER, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcLButtonDown, NCLBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcLButtonUp, NCLBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcLButtonDblClk, NCLBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcRButtonDown, NCRBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcRButtonUp, NCRBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcRButtonDblClk, NCRBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcMButtonDown, NCMBUTTONDOWN, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcMButtonUp, NCMBUTTONUP, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnNcMButtonDblClk, NCMBUTTONDBLCLK, void(UINT, CPoint), "120034 (78,56)") \
+    X(OnContextMenu, CONTEXTMENU, void(CWnd*, CPoint), "CWnd:120034 (78,56)") \
+    X(OnUnInitMenuPopup, UNINITMENUPOPUP, void(CMenu*, UINT), "CMenu:120034 56") \
+    X(OnMenuDrag, MENUDRAG, UINT(UINT, CMenu*), "120034 CMenu:560078") \
+    X(OnMenuRButtonUp, MENURBUTTONUP, void(UINT, CMenu*), "120034 CMenu:560078") \
+    X(OnNextMenu, NEXTMENU, void(UINT, LPMDINEXTMENU), "120034 p560078") \
+    X(OnSysCommand, SYSCOMMAND, void(UINT, LPARAM), "120034 560078") \
+    X(OnChangeUIState, CHANGEUISTATE, void(UINT, UINT), "34 12") \
+    X(OnUpdateUIState, UPDATEUISTATE, void(UINT, UINT), "34 12") \
+    X(OnSettingChange, SETTINGCHANGE, void(UINT, LPCTSTR), "120034 p560078") \
+    X(OnDeviceChange, DEVICECHANGE, BOOL(UINT, DWORD_PTR), "120034 560078") \
+    X(OnSpoolerStatus, SPOOLERSTATUS, void(UINT, UINT), "120034 78") \
+    X(OnPowerBroadcast, POWERBROADCAST, UINT(UINT, UINT), "120034 560078") \
+    X(OnSessionChange, WTSSESSION_CHANGE, void(UINT, UINT), "120034 560078") \
+    X(OnColorizationColorChanged, DWMCOLORIZATIONCOLORCHANGED, void(DWORD, BOOL), "120034 560078") \
+    X(OnAskCbFormatName, ASKCBFORMATNAME, void(UINT, LPTSTR), "120034 p560078") \
+    X(OnChangeCbChain, CHANGECBCHAIN, void(HWND, HWND), "p120034 p560078") \
+    X(OnPaintClipboard, PAINTCLIPBOARD, void(CWnd*, HGLOBAL), "CWnd:120034 p560078") \
+    X(OnSizeClipboard, SIZECLIPBOARD, void(CWnd*, HGLOBAL), "CWnd:120034 p560078") \
+    X(OnCopyData, COPYDATA, BOOL(CWnd*, COPYDATASTRUCT*), "CWnd:120034 p560078") \
+    X(OnNotifyFormat, NOTIFYFORMAT, UINT(CWnd*, UINT), "CWnd:120034 560078") \
+    X(OnTCard, TCARD, void(UINT, DWORD), "120034 560078") \
+    X(OnActivate, ACTIVATE, void(UINT, CWnd*, BOOL), "34 CWnd:560078 12") \
+    X(OnMDIActivate, MDIACTIVATE, void(BOOL, CWnd*, CWnd*), "0 CWnd:560078 CWnd:120034") \
+    X(OnMouseActivate, MOUSEACTIVATE, int(CWnd*, UINT, UINT), "CWnd:120034 78 56") \
+    X(OnSize, SIZE, void(UINT, int, int), "120034 78 56") \
+    X(OnCtlColor, CTLCOLOR, HBRUSH(CDC*, CWnd*, UINT), "CDC:120034 CWnd:560078 6") \
+    X(OnCharToItem, CHARTOITEM, int(UINT, CListBox*, UINT), "34 CListBox:560078 12") \
+    X(OnVKeyToItem, VKEYTOITEM, int(UINT, CListBox*, UINT), "34 CListBox:560078 12") \
+    X(OnKeyDown, KEYDOWN, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnKeyUp, KEYUP, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnChar, CHAR, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnDeadChar, DEADCHAR, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnUniChar, UNICHAR, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnSysKeyDown, SYSKEYDOWN, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnSysKeyUp, SYSKEYUP, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnSysChar, SYSCHAR, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnSysDeadChar, SYSDEADCHAR, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnHotKey, HOTKEY, void(UINT, UINT, UINT), "120034 78 56") \
+    X(OnSetCursor, SETCURSOR, BOOL(CWnd*, UINT, UINT), "CWnd:120034 78 56") \
+    X(OnMouseWheel, MOUSEWHEEL, BOOL(UINT, short, CPoint), "34 12 (78,56)") \
+    X(OnMouseHWheel, MOUSEHWHEEL, void(UINT, short, CPoint), "34 12 (78,56)") \
+    X(OnXButtonDown, XBUTTONDOWN, void(UINT, UINT, CPoint), "34 12 (78,56)") \
+    X(OnXButtonUp, XBUTTONUP, void(UINT, UINT, CPoint), "34 12 (78,56)") \
+    X(OnXButtonDblClk, XBUTTONDBLCLK, void(UINT, UINT, CPoint), "34 12 (78,56)") \
+    X(OnNcXButtonDown, NCXBUTTONDOWN, void(short, UINT, CPoint), "34 12 (78,56)") \
+    X(OnNcXButtonUp, NCXBUTTONUP, void(short, UINT, CPoint), "34 12 (78,56)") \
+    X(OnNcXButtonDblClk, NCXBUTTONDBLCLK, void(short, UINT, CPoint), "34 12 (78,56)") \
+    X(OnHScroll, HSCROLL, void(UINT, UINT, CScrollBar*), "34 12 CScrollBar:560078") \
+    X(OnVScroll, VSCROLL, void(UINT, UINT, CScrollBar*), "34 12 CScrollBar:560078") \
+    X(OnInitMenuPopup, INITMENUPOPUP, void(CMenu*, UINT, BOOL), "CMenu:120034 78 56") \
+    X(OnMenuSelect, MENUSELECT, void(UINT, UINT, HMENU), "34 12 p560078") \
+    X(OnMenuChar, MENUCHAR, LRESULT(UINT, UINT, CMenu*), "34 12 CMenu:560078") \
+    X(OnHScrollClipboard, HSCROLLCLIPBOARD, void(CWnd*, UINT, UINT), "CWnd:120034 78 56") \
+    X(OnVScrollClipboard, VSCROLLCLIPBOARD, void(CWnd*, UINT, UINT), "CWnd:120034 78 56") \
+    X(OnAppCommand, APPCOMMAND, void(CWnd*, UINT, UINT, UINT), "CWnd:120034 56 0 78")
 
-#define ROWS1(X) \
-    X(ON_WM_CREATE, OnCreate, int, LPCREATESTRUCT, WM_CREATE, "p560078") \
-    X(ON_WM_NCCREATE, OnNcCreate, BOOL, LPCREATESTRUCT, WM_NCCREATE, "p560078") \
-    X(ON_WM_NCACTIVATE, OnNcActivate, BOOL, BOOL, WM_NCACTIVATE, "120034") \
-    X(ON_WM_SETFOCUS, OnSetFocus, void, CWnd*, WM_SETFOCUS, "CWnd:120034") \
-    X(ON_WM_KILLFOCUS, OnKillFocus, void, CWnd*, WM_KILLFOCUS, "CWnd:120034") \
-    X(ON_WM_ENABLE, OnEnable, void, BOOL, WM_ENABLE, "120034") \
-    X(ON_WM_CAPTURECHANGED, OnCaptureChanged, void, CWnd*, WM_CAPTURECHANGED, "CWnd:560078") \
-    X(ON_WM_GETMINMAXINFO, OnGetMinMaxInfo, void, MINMAXINFO*, WM_GETMINMAXINFO, "p560078") \
-    X(ON_WM_WINDOWPOSCHANGING, OnWindowPosChanging, void, WINDOWPOS*, WM_WINDOWPOSCHANGING, \
-      "p560078") \
-    X(ON_WM_WINDOWPOSCHANGED, OnWindowPosChanged, void, WINDOWPOS*, WM_WINDOWPOSCHANGED, \
-      "p560078") \
-    X(ON_WM_ERASEBKGND, OnEraseBkgnd, BOOL, CDC*, WM_ERASEBKGND, "CDC:120034") \
-    X(ON_WM_ICONERASEBKGND, OnIconEraseBkgnd, void, CDC*, WM_ICONERASEBKGND, "CDC:120034") \
-    X(ON_WM_PALETTECHANGED, OnPaletteChanged, void, CWnd*, WM_PALETTECHANGED, "CWnd:120034") \
-    X(ON_WM_PALETTEISCHANGING, OnPaletteIsChanging, void, CWnd*, WM_PALETTEISCHANGING, \
-      "CWnd:120034") \
-    X(ON_WM_HELPINFO, OnHelpInfo, BOOL, HELPINFO*, WM_HELP, "p560078") \
-    X(ON_WM_INPUT_DEVICE_CHANGE, OnInputDeviceChange, void, unsigned short, \
-      WM_INPUT_DEVICE_CHANGE, "34") \
-    X(ON_WM_NCHITTEST, OnNcHitTest, LRESULT, CPoint, WM_NCHITTEST, "(78,56)") \
-    X(ON_WM_TIMER, OnTimer, void, UINT_PTR, WM_TIMER, "120034") \
-    X(ON_WM_INITMENU, OnInitMenu, void, CMenu*, WM_INITMENU, "CMenu:120034") \
-    X(ON_WM_MENUGETOBJECT, OnMenuGetObject, UINT, MENUGETOBJECTINFO*, WM_MENUGETOBJECT, "p560078") \
-    X(ON_WM_ENTERMENULOOP, OnEnterMenuLoop, void, BOOL, WM_ENTERMENULOOP, "120034") \
-    X(ON_WM_EXITMENULOOP, OnExitMenuLoop, void, BOOL, WM_EXITMENULOOP, "120034") \
-    X(ON_WM_DEVMODECHANGE, OnDevModeChange, void, LPTSTR, WM_DEVMODECHANGE, "p560078") \
-    X(ON_WM_COMPACTING, OnCompacting, void, UINT, WM_COMPACTING, "120034") \
-    X(ON_WM_ENDSESSION, OnEndSession, void, BOOL, WM_ENDSESSION, "120034") \
-    X(ON_WM_DWMNCRENDERINGCHANGED, OnNcRenderingChanged, void, BOOL, WM_DWMNCRENDERINGCHANGED, \
-      "120034") \
-    X(ON_WM_DWMWINDOWMAXIMIZEDCHANGE, OnWindowMaximizedChanged, void, BOOL, \
-      WM_DWMWINDOWMAXIMIZEDCHANGE, "120034") \
-    X(ON_WM_RENDERFORMAT, OnRenderFormat, void, UINT, WM_RENDERFORMAT, "120034") \
-    X(ON_WM_DROPFILES, OnDropFiles, void, HDROP, WM_DROPFILES, "p120034")
-
-#define ROWS2(X) \
-    X(ON_WM_PARENTNOTIFY, OnParentNotify, void, UINT, LPARAM, WM_PARENTNOTIFY, "120034 560078") \
-    X(ON_WM_ACTIVATEAPP, OnActivateApp, void, BOOL, DWORD, WM_ACTIVATEAPP, "120034 560078") \
-    X(ON_WM_ENTERIDLE, OnEnterIdle, void, UINT, CWnd*, WM_ENTERIDLE, "120034 CWnd:560078") \
-    X(ON_WM_SIZING, OnSizing, void, UINT, LPRECT, WM_SIZING, "120034 p560078") \
-    X(ON_WM_MOVE, OnMove, void, int, int, WM_MOVE, "78 56") \
-    X(ON_WM_MOVING, OnMoving, void, UINT, LPRECT, WM_MOVING, "120034 p560078") \
-    X(ON_WM_SHOWWINDOW, OnShowWindow, void, BOOL, UINT, WM_SHOWWINDOW, "120034 560078") \
-    X(ON_WM_STYLECHANGING, OnStyleChanging, void, int, LPSTYLESTRUCT, WM_STYLECHANGING, \
-      "120034 p560078") \
-    X(ON_WM_STYLECHANGED, OnStyleChanged, void, int, LPSTYLESTRUCT, WM_STYLECHANGED, \
-      "120034 p560078") \
-    X(ON_WM_NCCALCSIZE, OnNcCalcSize, void, BOOL, NCCALCSIZE_PARAMS*, WM_NCCALCSIZE, \
-      "120034 p560078") \
-    X(ON_WM_DRAWITEM, OnDrawItem, void, int, LPDRAWITEMSTRUCT, WM_DRAWITEM, "120034 p560078") \
-    X(ON_WM_MEASUREITEM, OnMeasureItem, void, int, LPMEASUREITEMSTRUCT, WM_MEASUREITEM, \
-      "120034 p560078") \
-    X(ON_WM_COMPAREITEM, OnCompareItem, int, int, LPCOMPAREITEMSTRUCT, WM_COMPAREITEM, \
-      "120034 p560078") \
-    X(ON_WM_DELETEITEM, OnDeleteItem, void, int, LPDELETEITEMSTRUCT, WM_DELETEITEM, \
-      "120034 p560078") \
-    X(ON_WM_INPUTLANGCHANGE, OnInputLangChange, void, UINT, UINT, WM_INPUTLANGCHANGE, \
-      "120034 560078") \
-    X(ON_WM_INPUTLANGCHANGEREQUEST, OnInputLangChangeRequest, void, UINT, UINT, \
-      WM_INPUTLANGCHANGEREQUEST, "120034 560078") \
-    X(ON_WM_MOUSEMOVE, OnMouseMove, void, UINT, CPoint, WM_MOUSEMOVE, "120034 (78,56)") \
-    X(ON_WM_MOUSEHOVER, OnMouseHover, void, UINT, CPoint, WM_MOUSEHOVER, "120034 (78,56)") \
-    X(ON_WM_LBUTTONDOWN, OnLButtonDown, void, UINT, CPoint, WM_LBUTTONDOWN, "120034 (78,56)") \
-    X(ON_WM_LBUTTONUP, OnLButtonUp, void, UINT, CPoint, WM_LBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_LBUTTONDBLCLK, OnLButtonDblClk, void, UINT, CPoint, WM_LBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_RBUTTONDOWN, OnRButtonDown, void, UINT, CPoint, WM_RBUTTONDOWN, "120034 (78,56)") \
-    X(ON_WM_RBUTTONUP, OnRButtonUp, void, UINT, CPoint, WM_RBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_RBUTTONDBLCLK, OnRButtonDblClk, void, UINT, CPoint, WM_RBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_MBUTTONDOWN, OnMButtonDown, void, UINT, CPoint, WM_MBUTTONDOWN, "120034 (78,56)") \
-    X(ON_WM_MBUTTONUP, OnMButtonUp, void, UINT, CPoint, WM_MBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_MBUTTONDBLCLK, OnMButtonDblClk, void, UINT, CPoint, WM_MBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_INPUT, OnRawInput, void, UINT, HRAWINPUT, WM_INPUT, "120034 p560078") \
-    X(ON_WM_NCMOUSEMOVE, OnNcMouseMove, void, UINT, CPoint, WM_NCMOUSEMOVE, "120034 (78,56)") \
-    X(ON_WM_NCMOUSEHOVER, OnNcMouseHover, void, UINT, CPoint, WM_NCMOUSEHOVER, "120034 (78,56)") \
-    X(ON_WM_NCLBUTTONDOWN, OnNcLButtonDown, void, UINT, CPoint, WM_NCLBUTTONDOWN, \
-      "120034 (78,56)") \
-    X(ON_WM_NCLBUTTONUP, OnNcLButtonUp, void, UINT, CPoint, WM_NCLBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCLBUTTONDBLCLK, OnNcLButtonDblClk, void, UINT, CPoint, WM_NCLBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_NCRBUTTONDOWN, OnNcRButtonDown, void, UINT, CPoint, WM_NCRBUTTONDOWN, \
-      "120034 (78,56)") \
-    X(ON_WM_NCRBUTTONUP, OnNcRButtonUp, void, UINT, CPoint, WM_NCRBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCRBUTTONDBLCLK, OnNcRButtonDblClk, void, UINT, CPoint, WM_NCRBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_NCMBUTTONDOWN, OnNcMButtonDown, void, UINT, CPoint, WM_NCMBUTTONDOWN, \
-      "120034 (78,56)") \
-    X(ON_WM_NCMBUTTONUP, OnNcMButtonUp, void, UINT, CPoint, WM_NCMBUTTONUP, "120034 (78,56)") \
-    X(ON_WM_NCMBUTTONDBLCLK, OnNcMButtonDblClk, void, UINT, CPoint, WM_NCMBUTTONDBLCLK, \
-      "120034 (78,56)") \
-    X(ON_WM_CONTEXTMENU, OnContextMenu, void, CWnd*, CPoint, WM_CONTEXTMENU, \
-      "CWnd:120034 (78,56)") \
-    X(ON_WM_UNINITMENUPOPUP, OnUnInitMenuPopup, void, CMenu*, UINT, WM_UNINITMENUPOPUP, \
-      "CMenu:120034 56") \
-    X(ON_WM_MENUDRAG, OnMenuDrag, UINT, UINT, CMenu*, WM_MENUDRAG, "120034 CMenu:560078") \
-    X(ON_WM_MENURBUTTONUP, OnMenuRButtonUp, void, UINT, CMenu*, WM_MENURBUTTONUP, \
-      "120034 CMenu:560078") \
-    X(ON_WM_NEXTMENU, OnNextMenu, void, UINT, LPMDINEXTMENU, WM_NEXTMENU, "120034 p560078") \
-    X(ON_WM_SYSCOMMAND, OnSysCommand, void, UINT, LPARAM, WM_SYSCOMMAND, "120034 560078") \
-    X(ON_WM_CHANGEUISTATE, OnChangeUIState, void, UINT, UINT, WM_CHANGEUISTATE, "34 12") \
-    X(ON_WM_UPDATEUISTATE, OnUpdateUIState, void, UINT, UINT, WM_UPDATEUISTATE, "34 12") \
-    X(ON_WM_SETTINGCHANGE, OnSettingChange, void, UINT, LPCTSTR, WM_SETTINGCHANGE, \
-      "120034 p560078") \
-    X(ON_WM_DEVICECHANGE, OnDeviceChange, BOOL, UINT, DWORD_PTR, WM_DEVICECHANGE, "120034 560078") \
-    X(ON_WM_SPOOLERSTATUS, OnSpoolerStatus, void, UINT, UINT, WM_SPOOLERSTATUS, "120034 78") \
-    X(ON_WM_POWERBROADCAST, OnPowerBroadcast, UINT, UINT, UINT, WM_POWERBROADCAST, \
-      "120034 560078") \
-    X(ON_WM_WTSSESSION_CHANGE, OnSessionChange, void, UINT, UINT, WM_WTSSESSION_CHANGE, \
-      "120034 560078") \
-    X(ON_WM_DWMCOLORIZATIONCOLORCHANGED, OnColorizationColorChanged, void, DWORD, BOOL, \
-      WM_DWMCOLORIZATIONCOLORCHANGED, "120034 560078") \
-    X(ON_WM_ASKCBFORMATNAME, OnAskCbFormatName, void, UINT, LPTSTR, WM_ASKCBFORMATNAME, \
-      "120034 p560078") \
-    X(ON_WM_CHANGECBCHAIN, OnChangeCbChain, void, HWND, HWND, WM_CHANGECBCHAIN, "p120034 p560078") \
-    X(ON_WM_PAINTCLIPBOARD, OnPaintClipboard, void, CWnd*, HGLOBAL, WM_PAINTCLIPBOARD, \
-      "CWnd:120034 p560078") \
-    X(ON_WM_SIZECLIPBOARD, OnSizeClipboard, void, CWnd*, HGLOBAL, WM_SIZECLIPBOARD, \
-      "CWnd:120034 p560078") \
-    X(ON_WM_COPYDATA, OnCopyData, BOOL, CWnd*, COPYDATASTRUCT*, WM_COPYDATA, \
-      "CWnd:120034 p560078") \
-    X(ON_WM_NOTIFYFORMAT, OnNotifyFormat, UINT, CWnd*, UINT, WM_NOTIFYFORMAT, \
-      "CWnd:120034 560078") \
-    X(ON_WM_TCARD, OnTCard, void, UINT, DWORD, WM_TCARD, "120034 560078")
-
-#define ROWS3(X) \
-    X(ON_WM_ACTIVATE, OnActivate, void, UINT, CWnd*, BOOL, WM_ACTIVATE, "34 CWnd:560078 12") \
-    X(ON_WM_MDIACTIVATE, OnMDIActivate, void, BOOL, CWnd*, CWnd*, WM_MDIACTIVATE, \
-      "0 CWnd:560078 CWnd:120034") \
-    X(ON_WM_MOUSEACTIVATE, OnMouseActivate, int, CWnd*, UINT, UINT, WM_MOUSEACTIVATE, \
-      "CWnd:120034 78 56") \
-    X(ON_WM_SIZE, OnSize, void, UINT, int, int, WM_SIZE, "120034 78 56") \
-    X(ON_WM_CTLCOLOR, OnCtlColor, HBRUSH, CDC*, CWnd*, UINT, WM_CTLCOLORSTATIC, \
-      "CDC:120034 CWnd:560078 6") \
-    X(ON_WM_CHARTOITEM, OnCharToItem, int, UINT, CListBox*, UINT, WM_CHARTOITEM, \
-      "34 CListBox:560078 12") \
-    X(ON_WM_VKEYTOITEM, OnVKeyToItem, int, UINT, CListBox*, UINT, WM_VKEYTOITEM, \
-      "34 CListBox:560078 12") \
-    X(ON_WM_KEYDOWN, OnKeyDown, void, UINT, UINT, UINT, WM_KEYDOWN, "120034 78 56") \
-    X(ON_WM_KEYUP, OnKeyUp, void, UINT, UINT, UINT, WM_KEYUP, "120034 78 56") \
-    X(ON_WM_CHAR, OnChar, void, UINT, UINT, UINT, WM_CHAR, "120034 78 56") \
-    X(ON_WM_DEADCHAR, OnDeadChar, void, UINT, UINT, UINT, WM_DEADCHAR, "120034 78 56") \
-    X(ON_WM_UNICHAR, OnUniChar, void, UINT, UINT, UINT, WM_UNICHAR, "120034 78 56") \
-    X(ON_WM_SYSKEYDOWN, OnSysKeyDown, void, UINT, UINT, UINT, WM_SYSKEYDOWN, "120034 78 56") \
-    X(ON_WM_SYSKEYUP, OnSysKeyUp, void, UINT, UINT, UINT, WM_SYSKEYUP, "120034 78 56") \
-    X(ON_WM_SYSCHAR, OnSysChar, void, UINT, UINT, UINT, WM_SYSCHAR, "120034 78 56") \
-    X(ON_WM_SYSDEADCHAR, OnSysDeadChar, void, UINT, UINT, UINT, WM_SYSDEADCHAR, "120034 78 56") \
-    X(ON_WM_HOTKEY, OnHotKey, void, UINT, UINT, UINT, WM_HOTKEY, "120034 78 56") \
-    X(ON_WM_SETCURSOR, OnSetCursor, BOOL, CWnd*, UINT, UINT, WM_SETCURSOR, "CWnd:120034 78 56") \
-    X(ON_WM_MOUSEWHEEL, OnMouseWheel, BOOL, UINT, short, CPoint, WM_MOUSEWHEEL, "34 12 (78,56)") \
-    X(ON_WM_MOUSEHWHEEL, OnMouseHWheel, void, UINT, short, CPoint, WM_MOUSEHWHEEL, \
-      "34 12 (78,56)") \
-    X(ON_WM_XBUTTONDOWN, OnXButtonDown, void, UINT, UINT, CPoint, WM_XBUTTONDOWN, "34 12 (78,56)") \
-    X(ON_WM_XBUTTONUP, OnXButtonUp, void, UINT, UINT, CPoint, WM_XBUTTONUP, "34 12 (78,56)") \
-    X(ON_WM_XBUTTONDBLCLK, OnXButtonDblClk, void, UINT, UINT, CPoint, WM_XBUTTONDBLCLK, \
-      "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONDOWN, OnNcXButtonDown, void, short, UINT, CPoint, WM_NCXBUTTONDOWN, \
-      "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONUP, OnNcXButtonUp, void, short, UINT, CPoint, WM_NCXBUTTONUP, \
-      "34 12 (78,56)") \
-    X(ON_WM_NCXBUTTONDBLCLK, OnNcXButtonDblClk, void, short, UINT, CPoint, WM_NCXBUTTONDBLCLK, \
-      "34 12 (78,56)") \
-    X(ON_WM_HSCROLL, OnHScroll, void, UINT, UINT, CScrollBar*, WM_HSCROLL, \
-      "34 12 CScrollBar:560078") \
-    X(ON_WM_VSCROLL, OnVScroll, void, UINT, UINT, CScrollBar*, WM_VSCROLL, \
-      "34 12 CScrollBar:560078") \
-    X(ON_WM_INITMENUPOPUP, OnInitMenuPopup, void, CMenu*, UINT, BOOL, WM_INITMENUPOPUP, \
-      "CMenu:120034 78 56") \
-    X(ON_WM_MENUSELECT, OnMenuSelect, void, UINT, UINT, HMENU, WM_MENUSELECT, "34 12 p560078") \
-    X(ON_WM_MENUCHAR, OnMenuChar, LRESULT, UINT, UINT, CMenu*, WM_MENUCHAR, "34 12 CMenu:560078") \
-    X(ON_WM_HSCROLLCLIPBOARD, OnHScrollClipboard, void, CWnd*, UINT, UINT, \
-      WM_HSCROLLCLIPBOARD, "CWnd:120034 78 56") \
-    X(ON_WM_VSCROLLCLIPBOARD, OnVScrollClipboard, void, CWnd*, UINT, UINT, \
-      WM_VSCROLLCLIPBOARD, "CWnd:120034 78 56")
-
-#define ROWS4(X) \
-    X(ON_WM_APPCOMMAND, OnAppCommand, void, CWnd*, UINT, UINT, UINT, WM_APPCOMMAND, \
-      "CWnd:120034 56 0 78")
-
+// A handler of exactly that signature: the maps ask for the address of one.
+#define DECLARE_HANDLER(name, id, signature, text)                                            \
+    template <class R, class... A, class = std::enable_if_t<std::is_same_v<R(A...), signature>>> \
+    R name(A... arguments) {                                                                  \
+        m_log.Add(#name, arguments...);                                                       \
+        return AnswerAs<R>();                                                                 \
+    }
+#define MAP_ENTRY(name, id, signature, text) ON_WM_##id()
+#define TABLE_ROW(name, id, signature, text) \
+    {WM_##id, #name, text, std::is_same_v<ResultOf<signature>, void>},
 // clang-format on
 
-template <class T>
-void Write(std::ostream& out, T value) {
-    if constexpr (std::is_pointer_v<T>) {
-        out << 'p' << std::hex << reinterpret_cast<UINT_PTR>(value);
-    } else {
-        out << std::hex << static_cast<std::make_unsigned_t<T>>(value);
-    }
-}
-void Write(std::ostream& out, CPoint point) {
-    out << '(' << std::hex << point.x << ',' << point.y << ')';
-}
-void Write(std::ostream& out, CWnd* wnd) {
-    out << "CWnd:" << std::hex << reinterpret_cast<UINT_PTR>(wnd->m_hWnd);
-}
-void Write(std::ostream& out, CScrollBar* bar) {
-    out << "CScrollBar:" << std::hex << reinterpret_cast<UINT_PTR>(bar->m_hWnd);
-}
-void Write(std::ostream& out, CListBox* list) {
-    out << "CListBox:" << std::hex << reinterpret_cast<UINT_PTR>(list->m_hWnd);
-}
-void Write(std::ostream& out, CDC* dc) {
-    out << "CDC:" << std::hex << reinterpret_cast<UINT_PTR>(dc->m_hDC);
-}
-void Write(std::ostream& out, CMenu* menu) {
-    out << "CMenu:" << std::hex << reinterpret_cast<UINT_PTR>(menu->m_hMenu);
-}
-
-template <class... Arg>
-std::string Show(const char* name, Arg... arg) {
-    std::ostringstream text;
-    text << name;
-    ((text << ' ', Write(text, arg)), ...);
-    return text.str();
-}
+constexpr UINT WM_HELPINFO = WM_HELP; // the macro has another name than its message
 
 constexpr LRESULT Answer = 7;
 
 template <class R>
 R AnswerAs() {
-    if constexpr (std::is_void_v<R>) {
-        return;
-    } else if constexpr (std::is_pointer_v<R>) {
+    if constexpr (std::is_pointer_v<R>)
         return reinterpret_cast<R>(Answer);
-    } else {
+    else
         return static_cast<R>(Answer);
-    }
 }
 
-#define DECLARE0(macro, name, R, message, text) \
-    afx_msg R name() {                          \
-        m_called = Show(#name);                 \
-        return AnswerAs<R>();                   \
-    }
-#define DECLARE1(macro, name, R, A, message, text) \
-    afx_msg R name(A a) {                          \
-        m_called = Show(#name, a);                 \
-        return AnswerAs<R>();                      \
-    }
-#define DECLARE2(macro, name, R, A, B, message, text) \
-    afx_msg R name(A a, B b) {                        \
-        m_called = Show(#name, a, b);                 \
-        return AnswerAs<R>();                         \
-    }
-#define DECLARE3(macro, name, R, A, B, C, message, text) \
-    afx_msg R name(A a, B b, C c) {                      \
-        m_called = Show(#name, a, b, c);                 \
-        return AnswerAs<R>();                            \
-    }
-#define DECLARE4(macro, name, R, A, B, C, D, message, text) \
-    afx_msg R name(A a, B b, C c, D d) {                    \
-        m_called = Show(#name, a, b, c, d);                 \
-        return AnswerAs<R>();                               \
-    }
-#define MAP0(macro, name, R, message, text) macro()
-#define MAP1(macro, name, R, A, message, text) macro()
-#define MAP2(macro, name, R, A, B, message, text) macro()
-#define MAP3(macro, name, R, A, B, C, message, text) macro()
-#define MAP4(macro, name, R, A, B, C, D, message, text) macro()
-#define LINE0(macro, name, R, message, text) {message, #name, text, std::is_void_v<R>},
-#define LINE1(macro, name, R, A, message, text) {message, #name, text, std::is_void_v<R>},
-#define LINE2(macro, name, R, A, B, message, text) {message, #name, text, std::is_void_v<R>},
-#define LINE3(macro, name, R, A, B, C, message, text) {message, #name, text, std::is_void_v<R>},
-#define LINE4(macro, name, R, A, B, C, D, message, text) {message, #name, text, std::is_void_v<R>},
+template <class R, class... A>
+R ResultOfCall(R (*)(A...));
+template <class Signature>
+using ResultOf = decltype(ResultOfCall(static_cast<Signature*>(nullptr)));
 
 /// Handles every window message and notes what it was called with.
 class Recorder : public CWnd {
 public:
     using CWnd::OnWndMsg;
-    std::string m_called;
+    CallLog m_log{true};
 
 protected:
-    ROWS0(DECLARE0)
-    ROWS1(DECLARE1)
-    ROWS2(DECLARE2)
-    ROWS3(DECLARE3)
-    ROWS4(DECLARE4)
+    EACH_WINDOW_MESSAGE(DECLARE_HANDLER)
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Recorder, CWnd)
-    ROWS0(MAP0)
-    ROWS1(MAP1)
-    ROWS2(MAP2)
-    ROWS3(MAP3)
-    ROWS4(MAP4)
+    EACH_WINDOW_MESSAGE(MAP_ENTRY)
 END_MESSAGE_MAP()
 
-struct WindowMessage {
+const struct {
     UINT message;
     std::string handler;
     std::string arguments;
     bool isVoid;
-};
-
-const WindowMessage windowMessages[] = {ROWS0(LINE0) ROWS1(LINE1) ROWS2(LINE2) ROWS3(LINE3)
-                                            ROWS4(LINE4)};
+} windowMessages[] = {EACH_WINDOW_MESSAGE(TABLE_ROW)};
 
 /// What Windows is told about a message whose handler returns nothing.
 LRESULT AnswerOfVoid(UINT message) {
@@ -357,13 +221,15 @@ LRESULT AnswerOfVoid(UINT message) {
 }
 
 TEST(MessageMap, EachWindowMessageReachesItsHandlerUnpacked) {
-    for (const WindowMessage& row : windowMessages) {
+    for (const auto& row : windowMessages) {
         SCOPED_TRACE(row.handler);
         Recorder recorder;
         LRESULT result = -1;
-        EXPECT_TRUE(recorder.OnWndMsg(row.message, W, L, &result));
+        // WM_CTLCOLOR is sent as a message of its own for each kind of control.
+        const UINT message = row.message == WM_CTLCOLOR ? WM_CTLCOLORSTATIC : row.message;
+        EXPECT_TRUE(recorder.OnWndMsg(message, W, L, &result));
         const std::string separator = row.arguments.empty() ? "" : " ";
-        EXPECT_EQ(recorder.m_called, row.handler + separator + row.arguments);
+        EXPECT_EQ(recorder.m_log.Take(), row.handler + separator + row.arguments);
         EXPECT_EQ(result, row.isVoid ? AnswerOfVoid(row.message) : Answer);
     }
     CWnd::DeleteTempMap();
@@ -371,26 +237,22 @@ TEST(MessageMap, EachWindowMessageReachesItsHandlerUnpacked) {
     CDC::DeleteTempMap();
 }
 
-/// The handlers whose coordinates may lie left of or above the origin.
+/// The handlers whose coordinates may lie left of or above the origin, and those with two faces.
 class SignedRecorder : public CWnd {
 public:
     using CWnd::OnWndMsg;
-    std::string m_called;
+    CallLog m_log;
 
 protected:
-    afx_msg void OnMove(int x, int y) { Note(x, y); }
-    afx_msg void OnMouseMove(UINT, CPoint point) { Note(point.x, point.y); }
+    afx_msg void OnMove(int x, int y) { m_log.Add("move", x, y); }
+    afx_msg void OnMouseMove(UINT, CPoint point) { m_log.Add("mouse", point); }
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point) {
-        Note(point.x, point.y);
-        m_called += " " + std::to_string(flags) + " " + std::to_string(delta);
-        return TRUE;
+        return m_log.Add("wheel", flags, delta, point), TRUE;
     }
-    afx_msg void OnSize(UINT, int cx, int cy) { Note(cx, cy); }
-    afx_msg void OnWinIniChange(LPCTSTR section) { m_called = section; }
+    afx_msg void OnSize(UINT, int cx, int cy) { m_log.Add("size", cx, cy); }
+    afx_msg void OnWinIniChange(LPCTSTR section) { m_log.Add(section); }
+    afx_msg void OnMDIActivate(BOOL activate, CWnd*, CWnd*) { m_log.Add("mdi", activate); }
     DECLARE_MESSAGE_MAP()
-
-private:
-    void Note(LONG x, LONG y) { m_called = std::to_string(x) + " " + std::to_string(y); }
 };
 
 BEGIN_MESSAGE_MAP(SignedRecorder, CWnd)
@@ -399,42 +261,30 @@ BEGIN_MESSAGE_MAP(SignedRecorder, CWnd)
     ON_WM_MOUSEWHEEL()
     ON_WM_SIZE()
     ON_WM_WININICHANGE()
+    ON_WM_MDIACTIVATE()
 END_MESSAGE_MAP()
 
 TEST(MessageMap, CoordinatesAreSignedAndSizesAreNot) {
     const LPARAM negative = MAKELPARAM(-3, -5);
+    const struct {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+        const char* called;
+    } rows[] = {
+        {WM_MOVE, 0, negative, "move -3 -5"},
+        {WM_MOUSEMOVE, 0, negative, "mouse (-3,-5)"},
+        {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), negative, "wheel 4 -120 (-3,-5)"},
+        {WM_SIZE, 0, MAKELPARAM(0xFFF0, 2), "size 65520 2"},
+        {WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("colors"), "colors"},
+        {WM_MDIACTIVATE, 0x11, 0, "mdi 1"}, // no window of ours is deactivated: it becomes active
+        {WM_MDIACTIVATE, 0, 0x11, "mdi 0"},
+    };
     SignedRecorder recorder;
-    recorder.OnWndMsg(WM_MOVE, 0, negative, nullptr);
-    EXPECT_EQ(recorder.m_called, "-3 -5");
-    recorder.OnWndMsg(WM_MOUSEMOVE, 0, negative, nullptr);
-    EXPECT_EQ(recorder.m_called, "-3 -5");
-    recorder.OnWndMsg(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), negative, nullptr);
-    EXPECT_EQ(recorder.m_called, "-3 -5 4 -120");
-    recorder.OnWndMsg(WM_SIZE, 0, MAKELPARAM(0xFFF0, 2), nullptr);
-    EXPECT_EQ(recorder.m_called, "65520 2");
-    recorder.OnWndMsg(WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("colors"), nullptr);
-    EXPECT_EQ(recorder.m_called, "colors");
-}
-
-TEST(MessageMap, MdiActivateTellsWhetherItIsThisWindow) {
-    class Child : public CWnd {
-    public:
-        using CWnd::OnWndMsg;
-        BOOL m_activated = -1;
-        static const AFX_MSGMAP* PASCAL GetThisMessageMap() {
-            using ThisClass = Child;
-            static const AFX_MSGMAP_ENTRY entries[] = {
-                ON_WM_MDIACTIVATE(){0, 0, 0, 0, nullptr, nullptr}};
-            static const AFX_MSGMAP map = {nullptr, entries};
-            return &map;
-        }
-        const AFX_MSGMAP* GetMessageMap() const override { return GetThisMessageMap(); }
-        afx_msg void OnMDIActivate(BOOL activate, CWnd*, CWnd*) { m_activated = activate; }
-    } child;
-    child.OnWndMsg(WM_MDIACTIVATE, 0x11, 0, nullptr);
-    EXPECT_EQ(child.m_activated, TRUE);
-    child.OnWndMsg(WM_MDIACTIVATE, 0, 0x11, nullptr);
-    EXPECT_EQ(child.m_activated, FALSE);
+    for (const auto& row : rows) {
+        recorder.OnWndMsg(row.message, row.wParam, row.lParam, nullptr);
+        EXPECT_EQ(recorder.m_log.Take(), row.called);
+    }
     CWnd::DeleteTempMap();
 }
 
@@ -447,62 +297,33 @@ const UINT WM_NAMED = ::RegisterWindowMessage("MessageMapTest");
 class Target : public CWnd {
 public:
     using CWnd::OnWndMsg;
-    std::vector<std::string> m_log;
+    CallLog m_log;
     /// What the handlers that may decline return.
     BOOL m_take = TRUE;
 
-    std::string Take() {
-        std::string all;
-        for (const std::string& line : m_log) {
-            all += (all.empty() ? "" : ", ") + line;
-        }
-        m_log.clear();
-        return all;
-    }
-
 protected:
-    void Note(const char* what, UINT number = 0) {
-        m_log.push_back(number == 0 ? what : what + (" " + std::to_string(number)));
+    BOOL Notify(const char* what, UINT id, LRESULT* result, LRESULT answer) {
+        *result = answer;
+        return m_log.Add(what, id), m_take;
     }
-    afx_msg void OnPlain() { Note("plain"); }
-    afx_msg BOOL OnEx(UINT id) {
-        Note("ex", id);
-        return m_take;
-    }
-    afx_msg void OnRange(UINT id) { Note("range", id); }
-    afx_msg BOOL OnExRange(UINT id) {
-        Note("exrange", id);
-        return m_take;
-    }
+    afx_msg void OnPlain() { m_log.Add("plain"); }
+    afx_msg BOOL OnEx(UINT id) { return m_log.Add("ex", id), m_take; }
+    afx_msg void OnRange(UINT id) { m_log.Add("range", id); }
+    afx_msg BOOL OnExRange(UINT id) { return m_log.Add("exrange", id), m_take; }
     afx_msg void OnUpdate(CCmdUI* ui) {
-        Note("update", ui->m_nID);
-        if (!m_take) {
+        m_log.Add("update", ui->m_nID);
+        if (!m_take)
             ui->ContinueRouting();
-        }
     }
-    afx_msg void OnChange() { Note("change"); }
-    afx_msg void OnControlRange(UINT id) { Note("controlrange", id); }
+    afx_msg void OnChange() { m_log.Add("change"); }
+    afx_msg void OnControlRange(UINT id) { m_log.Add("controlrange", id); }
     afx_msg void OnNotifyPlain(NMHDR* header, LRESULT* result) {
-        Note("notify", static_cast<UINT>(header->idFrom));
-        *result = 11;
+        Notify("notify", static_cast<UINT>(header->idFrom), result, 11);
     }
-    afx_msg void OnNotifyRange(UINT id, NMHDR*, LRESULT* result) {
-        Note("notifyrange", id);
-        *result = 12;
-    }
-    afx_msg BOOL OnNotifyEx(UINT id, NMHDR*, LRESULT* result) {
-        Note("notifyex", id);
-        *result = 13;
-        return m_take;
-    }
-    afx_msg LRESULT OnOwn(WPARAM wParam, LPARAM lParam) {
-        Note("own", static_cast<UINT>(wParam) + static_cast<UINT>(lParam));
-        return 21;
-    }
-    afx_msg LRESULT OnNamed(WPARAM wParam, LPARAM) {
-        Note("named", static_cast<UINT>(wParam));
-        return 22;
-    }
+    afx_msg void OnNotifyRange(UINT id, NMHDR*, LRESULT* r) { Notify("notifyrange", id, r, 12); }
+    afx_msg BOOL OnNotifyEx(UINT id, NMHDR*, LRESULT* r) { return Notify("notifyex", id, r, 13); }
+    afx_msg LRESULT OnOwn(WPARAM w, LPARAM l) { return m_log.Add("own", w, l), 21; }
+    afx_msg LRESULT OnNamed(WPARAM w, LPARAM) { return m_log.Add("named", w), 22; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -523,49 +344,33 @@ BEGIN_MESSAGE_MAP(Target, CWnd)
     ON_REGISTERED_MESSAGE(WM_NAMED, &Target::OnNamed)
 END_MESSAGE_MAP()
 
-struct CommandRow {
-    UINT id;
-    int code;
-    const char* called; ///< empty: nobody
-};
-
 TEST(MessageMap, CommandsAndNotificationsFindTheirLine) {
-    const CommandRow rows[] = {
-        {100, CN_COMMAND, "plain"},
-        {101, CN_COMMAND, "ex 101"},
-        {109, CN_COMMAND, ""},
-        {110, CN_COMMAND, "range 110"},
-        {112, CN_COMMAND, "range 112"},
-        {113, CN_COMMAND, ""},
-        {120, CN_COMMAND, "exrange 120"},
-        {122, CN_COMMAND, "exrange 122"},
-        {130, EN_CHANGE, "change"},
-        {130, EN_UPDATE, ""},
-        {131, EN_CHANGE, ""},
-        {131, BN_DOUBLECLICKED, "controlrange 131"},
-        {133, BN_DOUBLECLICKED, "controlrange 133"},
-    };
-    for (const CommandRow& row : rows) {
-        SCOPED_TRACE(row.id);
-        Target target;
-        EXPECT_EQ(target.OnCmdMsg(row.id, row.code, nullptr, nullptr), *row.called != '\0');
-        EXPECT_EQ(target.Take(), row.called);
-    }
-}
-
-TEST(MessageMap, NotificationsThroughWmNotify) {
     const struct {
         UINT id;
         UINT code;
-        const char* called;
+        UINT message;       ///< null for a command or the notification of a standard control
+        const char* called; ///< empty: nobody
         LRESULT result;
     } rows[] = {
-        {140, NM_CLICK, "notify 140", 11},
-        {141, NM_CLICK, "", 0},
-        {141, LVN_ITEMCHANGED, "notifyrange 141", 12},
-        {143, LVN_ITEMCHANGED, "notifyrange 143", 12},
-        {144, NM_RCLICK, "notifyex 144", 13},
-        {146, NM_RCLICK, "notifyex 146", 13},
+        {100, CN_COMMAND, 0, "plain", 0},
+        {101, CN_COMMAND, 0, "ex 101", 0},
+        {109, CN_COMMAND, 0, "", 0},
+        {110, CN_COMMAND, 0, "range 110", 0},
+        {112, CN_COMMAND, 0, "range 112", 0},
+        {113, CN_COMMAND, 0, "", 0},
+        {120, CN_COMMAND, 0, "exrange 120", 0},
+        {122, CN_COMMAND, 0, "exrange 122", 0},
+        {130, EN_CHANGE, 0, "change", 0},
+        {130, EN_UPDATE, 0, "", 0},
+        {131, EN_CHANGE, 0, "", 0},
+        {131, BN_DOUBLECLICKED, 0, "controlrange 131", 0},
+        {133, BN_DOUBLECLICKED, 0, "controlrange 133", 0},
+        {140, NM_CLICK, WM_NOTIFY, "notify 140", 11},
+        {141, NM_CLICK, WM_NOTIFY, "", 0},
+        {141, LVN_ITEMCHANGED, WM_NOTIFY, "notifyrange 141", 12},
+        {143, LVN_ITEMCHANGED, WM_NOTIFY, "notifyrange 143", 12},
+        {144, NM_RCLICK, WM_NOTIFY, "notifyex 144", 13},
+        {146, NM_RCLICK, WM_NOTIFY, "notifyex 146", 13},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.id);
@@ -573,8 +378,9 @@ TEST(MessageMap, NotificationsThroughWmNotify) {
         NMHDR header = {nullptr, row.id, row.code};
         LRESULT result = 0;
         AFX_NOTIFY notify = {&result, &header};
-        target.OnCmdMsg(row.id, static_cast<int>(MAKELONG(row.code, WM_NOTIFY)), &notify, nullptr);
-        EXPECT_EQ(target.Take(), row.called);
+        const int code = static_cast<int>(MAKELONG(row.code, row.message));
+        EXPECT_EQ(target.OnCmdMsg(row.id, code, &notify, nullptr), *row.called != '\0');
+        EXPECT_EQ(target.m_log.Take(), row.called);
         EXPECT_EQ(result, row.result);
     }
 }
@@ -587,7 +393,7 @@ TEST(MessageMap, DeclinedMessagesGoOn) {
     CCmdUI ui;
     ui.m_nID = 111;
     EXPECT_FALSE(target.OnCmdMsg(111, CN_UPDATE_COMMAND_UI, &ui, nullptr));
-    EXPECT_EQ(target.Take(), "ex 101, exrange 120, update 111");
+    EXPECT_EQ(target.m_log.Take(), "ex 101, exrange 120, update 111");
     target.m_take = TRUE;
     EXPECT_TRUE(target.OnCmdMsg(111, CN_UPDATE_COMMAND_UI, &ui, nullptr));
 }
@@ -600,7 +406,7 @@ TEST(MessageMap, HandlerInfoFindsWithoutCalling) {
     info.pTarget = nullptr;
     EXPECT_FALSE(target.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, nullptr);
-    EXPECT_EQ(target.Take(), "");
+    EXPECT_EQ(target.m_log.Take(), "");
 }
 
 TEST(MessageMap, OwnAndRegisteredMessages) {
@@ -612,14 +418,12 @@ TEST(MessageMap, OwnAndRegisteredMessages) {
     EXPECT_EQ(result, 22);
     EXPECT_FALSE(target.OnWndMsg(WM_NAMED + 1, 5, 0, &result));
     EXPECT_FALSE(target.OnWndMsg(WM_OWN + 1, 5, 0, &result));
-    EXPECT_EQ(target.Take(), "own 7, named 5");
+    EXPECT_EQ(target.m_log.Take(), "own 3 4, named 5");
 }
-
-// ---- Inheritance --------------------------------------------------------------------------------
 
 class Derived : public Target {
 protected:
-    afx_msg void OnPlainDerived() { Note("derived"); }
+    afx_msg void OnPlainDerived() { m_log.Add("derived"); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -630,7 +434,7 @@ END_MESSAGE_MAP()
 template <class Base>
 class Mixed : public Base {
 protected:
-    afx_msg void OnMixed() { this->Note("mixed"); }
+    afx_msg void OnMixed() { this->m_log.Add("mixed"); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -640,22 +444,17 @@ END_MESSAGE_MAP()
 
 TEST(MessageMap, TheDerivedClassComesFirst) {
     Mixed<Derived> target;
-    for (const UINT id : {100, 101, 110}) {
+    for (const UINT id : {100, 101, 110})
         EXPECT_TRUE(target.OnCmdMsg(id, CN_COMMAND, nullptr, nullptr));
-    }
-    EXPECT_EQ(target.Take(), "derived, mixed, range 110");
+    EXPECT_EQ(target.m_log.Take(), "derived, mixed, range 110");
 }
-
-// ---- Thread messages ----------------------------------------------------------------------------
 
 class Thread : public CWinThread {
 public:
-    std::string m_called;
+    CallLog m_log;
 
 protected:
-    afx_msg void OnOwn(WPARAM wParam, LPARAM lParam) {
-        m_called = std::to_string(wParam) + " " + std::to_string(lParam);
-    }
+    afx_msg void OnOwn(WPARAM wParam, LPARAM lParam) { m_log.Add("own", wParam, lParam); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -666,24 +465,19 @@ END_MESSAGE_MAP()
 
 TEST(MessageMap, MessagesPostedToAThread) {
     Thread thread;
-    MSG msg = {};
-    msg.message = WM_OWN;
-    msg.wParam = 1;
-    msg.lParam = 2;
-    EXPECT_TRUE(thread.PreTranslateMessage(&msg));
-    EXPECT_EQ(thread.m_called, "1 2");
-    msg.message = WM_NAMED;
-    msg.wParam = 3;
-    EXPECT_TRUE(thread.PreTranslateMessage(&msg));
-    EXPECT_EQ(thread.m_called, "3 2");
-    msg.message = WM_OWN + 1;
-    EXPECT_FALSE(thread.PreTranslateMessage(&msg));
+    MSG own = {nullptr, WM_OWN, 1, 2, 0, {}};
+    MSG named = {nullptr, WM_NAMED, 3, 2, 0, {}};
+    MSG unknown = {nullptr, WM_OWN + 1, 0, 0, 0, {}};
+    EXPECT_TRUE(thread.PreTranslateMessage(&own));
+    EXPECT_TRUE(thread.PreTranslateMessage(&named));
+    EXPECT_FALSE(thread.PreTranslateMessage(&unknown));
+    EXPECT_EQ(thread.m_log.Take(), "own 1 2, own 3 2");
 }
 
 // ---- Reflection ---------------------------------------------------------------------------------
 
 /// Who was asked, in this order.
-std::vector<std::string> g_order;
+CallLog g_log;
 
 class Control : public CWnd {
 public:
@@ -691,57 +485,30 @@ public:
     HBRUSH m_brush = nullptr;
 
 protected:
-    void Note(const std::string& what) { g_order.push_back("control " + what); }
+    template <class... N>
+    static void Note(const char* what, N... numbers) {
+        g_log.Add((std::string("control ") + what).c_str(), numbers...);
+    }
     afx_msg HBRUSH CtlColor(CDC* dc, UINT type) {
-        Note("color " + std::to_string(type) + (dc->m_hDC != nullptr ? "" : " without dc"));
-        return m_brush;
+        EXPECT_NE(dc->m_hDC, nullptr);
+        return Note("color", type), m_brush;
     }
-    afx_msg void DrawItem(LPDRAWITEMSTRUCT item) { Note("draw " + std::to_string(item->itemID)); }
-    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT item) {
-        Note("measure " + std::to_string(item->itemID));
-    }
-    afx_msg int CompareItem(LPCOMPAREITEMSTRUCT item) {
-        Note("compare " + std::to_string(item->itemID1));
-        return -1;
-    }
-    afx_msg void DeleteItem(LPDELETEITEMSTRUCT item) {
-        Note("delete " + std::to_string(item->itemID));
-    }
-    afx_msg int CharToItem(UINT key, UINT index) {
-        Note("char " + std::to_string(key) + " " + std::to_string(index));
-        return 3;
-    }
-    afx_msg int VKeyToItem(UINT key, UINT index) {
-        Note("key " + std::to_string(key) + " " + std::to_string(index));
-        return 4;
-    }
-    afx_msg void HScroll(UINT code, UINT pos) {
-        Note("hscroll " + std::to_string(code) + " " + std::to_string(pos));
-    }
-    afx_msg void VScroll(UINT code, UINT pos) {
-        Note("vscroll " + std::to_string(code) + " " + std::to_string(pos));
-    }
-    afx_msg void ParentNotify(UINT message, LPARAM) {
-        Note("parentnotify " + std::to_string(LOWORD(message)));
-    }
+    afx_msg void DrawItem(LPDRAWITEMSTRUCT item) { Note("draw", item->itemID); }
+    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT item) { Note("measure", item->itemID); }
+    afx_msg int CompareItem(LPCOMPAREITEMSTRUCT item) { return Note("compare", item->itemID1), -1; }
+    afx_msg void DeleteItem(LPDELETEITEMSTRUCT item) { Note("delete", item->itemID); }
+    afx_msg int CharToItem(UINT key, UINT index) { return Note("char", key, index), 3; }
+    afx_msg int VKeyToItem(UINT key, UINT index) { return Note("key", key, index), 4; }
+    afx_msg void HScroll(UINT code, UINT pos) { Note("hscroll", code, pos); }
+    afx_msg void VScroll(UINT code, UINT pos) { Note("vscroll", code, pos); }
+    afx_msg void ParentNotify(UINT message, LPARAM) { Note("parentnotify", LOWORD(message)); }
     afx_msg void OnClicked() { Note("clicked"); }
-    afx_msg BOOL OnDoubleClicked() {
-        Note("doubleclicked");
-        return m_take;
-    }
-    afx_msg void OnNotifyClick(NMHDR*, LRESULT* result) {
-        Note("notify");
-        *result = 31;
-    }
+    afx_msg BOOL OnDoubleClicked() { return Note("doubleclicked"), m_take; }
+    afx_msg void OnNotifyClick(NMHDR*, LRESULT* result) { Note("notify"), *result = 31; }
     afx_msg BOOL OnNotifyRightClick(NMHDR*, LRESULT* result) {
-        Note("notifyex");
-        *result = 32;
-        return m_take;
+        return Note("notifyex"), *result = 32, m_take;
     }
-    afx_msg void OnUpdate(CCmdUI* ui) {
-        Note("update " + std::to_string(ui->m_nID));
-        ui->Enable(FALSE);
-    }
+    afx_msg void OnUpdate(CCmdUI* ui) { Note("update", ui->m_nID), ui->Enable(FALSE); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -767,14 +534,14 @@ constexpr UINT ControlId = 40;
 
 class Parent : public CWnd {
 protected:
-    afx_msg void OnClicked() { g_order.push_back("parent clicked"); }
-    afx_msg void OnDoubleClicked() { g_order.push_back("parent doubleclicked"); }
+    afx_msg void OnClicked() { g_log.Add("parent clicked"); }
+    afx_msg void OnDoubleClicked() { g_log.Add("parent doubleclicked"); }
     afx_msg void OnNotifyClick(NMHDR*, LRESULT* result) {
-        g_order.push_back("parent notify");
+        g_log.Add("parent notify");
         *result = 41;
     }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT type) {
-        g_order.push_back("parent color");
+        g_log.Add("parent color");
         return CWnd::OnCtlColor(dc, wnd, type);
     }
     DECLARE_MESSAGE_MAP()
@@ -791,106 +558,86 @@ END_MESSAGE_MAP()
 class Reflection : public testing::Test {
 protected:
     void SetUp() override {
+        const CRect place(0, 0, 90, 90);
+        ASSERT_TRUE(m_parent.CreateEx(0, nullptr, "parent", WS_POPUP, place, nullptr, 0));
         ASSERT_TRUE(
-            m_parent.CreateEx(0, nullptr, "parent", WS_POPUP, CRect(0, 0, 90, 90), nullptr, 0));
-        ASSERT_TRUE(m_control.Create(nullptr, "control", WS_CHILD, CRect(0, 0, 9, 9), &m_parent,
-                                     ControlId));
-        g_order.clear();
+            m_control.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &m_parent, ControlId));
+        g_log.Take();
     }
     void TearDown() override { m_parent.DestroyWindow(); }
 
-    /// Sends the parent a message and tells who was asked.
+    /// Sends the parent a message and tells who was asked. Structures are given by their address.
     std::string Send(UINT message, WPARAM wParam, LPARAM lParam) {
-        g_order.clear();
         m_result = m_parent.SendMessage(message, wParam, lParam);
-        std::string all;
-        for (const std::string& line : g_order) {
-            all += (all.empty() ? "" : ", ") + line;
-        }
-        return all;
+        return g_log.Take();
     }
-    LPARAM ControlHandle() const { return reinterpret_cast<LPARAM>(m_control.m_hWnd); }
+    template <class T>
+    std::string Send(UINT message, T& structure) {
+        return Send(message, ControlId, reinterpret_cast<LPARAM>(&structure));
+    }
+    std::string FromControl(UINT message, WPARAM wParam) {
+        return Send(message, wParam, reinterpret_cast<LPARAM>(m_control.m_hWnd));
+    }
 
     Parent m_parent;
     Control m_control;
     LRESULT m_result = 0;
 };
 
-TEST_F(Reflection, CommandNotificationsGoToTheControlFirst) {
-    EXPECT_EQ(Send(WM_COMMAND, MAKEWPARAM(ControlId, BN_CLICKED), ControlHandle()),
-              "control clicked");
-    EXPECT_EQ(Send(WM_COMMAND, MAKEWPARAM(ControlId, BN_DOUBLECLICKED), ControlHandle()),
-              "control doubleclicked");
-    m_control.m_take = FALSE;
-    EXPECT_EQ(Send(WM_COMMAND, MAKEWPARAM(ControlId, BN_DOUBLECLICKED), ControlHandle()),
-              "control doubleclicked, parent doubleclicked");
-}
-
-TEST_F(Reflection, NotifyGoesToTheControlFirst) {
-    NMHDR header = {m_control.m_hWnd, ControlId, static_cast<UINT>(NM_CLICK)};
-    const auto lParam = reinterpret_cast<LPARAM>(&header);
-    EXPECT_EQ(Send(WM_NOTIFY, ControlId, lParam), "control notify");
+TEST_F(Reflection, NotificationsGoToTheControlFirst) {
+    const WPARAM twice = MAKEWPARAM(ControlId, BN_DOUBLECLICKED);
+    NMHDR click = {m_control.m_hWnd, ControlId, static_cast<UINT>(NM_CLICK)};
+    NMHDR right = {m_control.m_hWnd, ControlId, static_cast<UINT>(NM_RCLICK)};
+    EXPECT_EQ(FromControl(WM_COMMAND, MAKEWPARAM(ControlId, BN_CLICKED)), "control clicked");
+    EXPECT_EQ(FromControl(WM_COMMAND, twice), "control doubleclicked");
+    EXPECT_EQ(Send(WM_NOTIFY, click), "control notify");
     EXPECT_EQ(m_result, 31);
-    header.code = static_cast<UINT>(NM_RCLICK);
-    EXPECT_EQ(Send(WM_NOTIFY, ControlId, lParam), "control notifyex");
+    EXPECT_EQ(Send(WM_NOTIFY, right), "control notifyex");
     EXPECT_EQ(m_result, 32);
     m_control.m_take = FALSE;
-    EXPECT_EQ(Send(WM_NOTIFY, ControlId, lParam), "control notifyex, parent notify");
+    EXPECT_EQ(FromControl(WM_COMMAND, twice), "control doubleclicked, parent doubleclicked");
+    EXPECT_EQ(Send(WM_NOTIFY, right), "control notifyex, parent notify");
     EXPECT_EQ(m_result, 41);
 }
 
 TEST_F(Reflection, OtherMessagesComeBackThroughTheParentsDefaultHandler) {
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = ODT_BUTTON;
-    draw.itemID = 1;
-    draw.hwndItem = m_control.m_hWnd;
-    EXPECT_EQ(Send(WM_DRAWITEM, ControlId, reinterpret_cast<LPARAM>(&draw)), "control draw 1");
+    const HWND control = m_control.m_hWnd;
+    DRAWITEMSTRUCT draw = {ODT_BUTTON, 0, 1, 0, 0, control, nullptr, {}, 0};
+    MEASUREITEMSTRUCT measure = {ODT_LISTBOX, ControlId, 2, 0, 0, 0};
+    COMPAREITEMSTRUCT compare = {0, 0, control, 3, 0, 0, 0, 0};
+    DELETEITEMSTRUCT deleted = {0, 0, 4, control, 0};
+    EXPECT_EQ(Send(WM_DRAWITEM, draw), "control draw 1");
     EXPECT_EQ(m_result, TRUE);
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_LISTBOX;
-    measure.CtlID = ControlId;
-    measure.itemID = 2;
-    EXPECT_EQ(Send(WM_MEASUREITEM, ControlId, reinterpret_cast<LPARAM>(&measure)),
-              "control measure 2");
-    COMPAREITEMSTRUCT compare = {};
-    compare.hwndItem = m_control.m_hWnd;
-    compare.itemID1 = 3;
-    EXPECT_EQ(Send(WM_COMPAREITEM, ControlId, reinterpret_cast<LPARAM>(&compare)),
-              "control compare 3");
+    EXPECT_EQ(Send(WM_MEASUREITEM, measure), "control measure 2");
+    EXPECT_EQ(Send(WM_COMPAREITEM, compare), "control compare 3");
     EXPECT_EQ(m_result, -1);
-    DELETEITEMSTRUCT deleted = {};
-    deleted.hwndItem = m_control.m_hWnd;
-    deleted.itemID = 4;
-    EXPECT_EQ(Send(WM_DELETEITEM, ControlId, reinterpret_cast<LPARAM>(&deleted)),
-              "control delete 4");
-    EXPECT_EQ(Send(WM_CHARTOITEM, MAKEWPARAM('a', 5), ControlHandle()), "control char 97 5");
+    EXPECT_EQ(Send(WM_DELETEITEM, deleted), "control delete 4");
+    EXPECT_EQ(FromControl(WM_CHARTOITEM, MAKEWPARAM('a', 5)), "control char 97 5");
     EXPECT_EQ(m_result, 3);
-    EXPECT_EQ(Send(WM_VKEYTOITEM, MAKEWPARAM(VK_F2, 6), ControlHandle()), "control key 113 6");
+    EXPECT_EQ(FromControl(WM_VKEYTOITEM, MAKEWPARAM(VK_F2, 6)), "control key 113 6");
     EXPECT_EQ(m_result, 4);
-    EXPECT_EQ(Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 7), ControlHandle()),
-              "control hscroll 4 7");
-    EXPECT_EQ(Send(WM_VSCROLL, MAKEWPARAM(SB_LINEDOWN, 8), ControlHandle()), "control vscroll 1 8");
-    EXPECT_EQ(Send(WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, ControlId), ControlHandle()),
+    EXPECT_EQ(FromControl(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 7)), "control hscroll 4 7");
+    EXPECT_EQ(FromControl(WM_VSCROLL, MAKEWPARAM(SB_LINEDOWN, 8)), "control vscroll 1 8");
+    EXPECT_EQ(FromControl(WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, ControlId)),
               "control parentnotify 1");
     // The mouse buttons of WM_PARENTNOTIFY come with a point, not with a window.
-    EXPECT_EQ(Send(WM_PARENTNOTIFY, WM_LBUTTONDOWN, ControlHandle()), "");
+    EXPECT_EQ(FromControl(WM_PARENTNOTIFY, WM_LBUTTONDOWN), "");
 }
 
 TEST_F(Reflection, AControlWithoutABrushLeavesTheColourToTheParent) {
     CClientDC dc(&m_control);
     const auto wParam = reinterpret_cast<WPARAM>(dc.m_hDC);
     m_control.m_brush = reinterpret_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
-    EXPECT_EQ(Send(WM_CTLCOLORSTATIC, wParam, ControlHandle()), "parent color, control color 6");
+    EXPECT_EQ(FromControl(WM_CTLCOLORSTATIC, wParam), "parent color, control color 6");
     EXPECT_EQ(m_result, reinterpret_cast<LRESULT>(m_control.m_brush));
     m_control.m_brush = nullptr;
-    EXPECT_EQ(Send(WM_CTLCOLOREDIT, wParam, ControlHandle()), "parent color, control color 1");
+    EXPECT_EQ(FromControl(WM_CTLCOLOREDIT, wParam), "parent color, control color 1");
     EXPECT_NE(m_result, 0); // the system's own brush
 }
 
 TEST_F(Reflection, TheControlUpdatesItself) {
     m_parent.UpdateDialogControls(&m_parent, FALSE);
-    ASSERT_EQ(g_order.size(), 1U);
-    EXPECT_EQ(g_order[0], "control update 40");
+    EXPECT_EQ(g_log.Take(), "control update 40");
     EXPECT_FALSE(m_control.IsWindowEnabled());
 }
 

@@ -3,6 +3,7 @@
 
 #include "afx/CBitmap.h"
 #include "afx/CDC.h"
+#include "tests/support/Canvas.h"
 
 #include <gtest/gtest.h>
 
@@ -13,29 +14,22 @@ constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF green = RGB(0, 255, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
 
-/// A memory context that draws on a picture of 24-bit colours (no fourth byte to compare), white at
-/// first.
+/// A memory context of the framework on a canvas, white at first.
 class PictureDC : public CDC {
 public:
-    PictureDC(int width, int height) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 24;
-        void* pixels = nullptr;
-        m_bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-        CreateCompatibleDC(nullptr);
-        m_former = ::SelectObject(m_hDC, m_bitmap);
-        PatBlt(0, 0, width, height, WHITENESS);
+    PictureDC(int width, int height) : m_canvas(width, height, white) {
+        Attach(m_canvas.dc());
+        m_bitmap.Attach(::GetCurrentObject(m_hDC, OBJ_BITMAP));
     }
-    ~PictureDC() override { ::SelectObject(m_hDC, m_former); }
+    ~PictureDC() override {
+        m_bitmap.Detach();
+        Detach();
+    }
 
     CBitmap m_bitmap;
 
 private:
-    HGDIOBJ m_former;
+    Canvas m_canvas;
 };
 
 /// A row of pixels as text: one letter each for white, red, green, blue, and '?' for others.

@@ -7,7 +7,6 @@
 #include <functional>
 #include <memory>
 #include <new>
-#include <string>
 #include <vector>
 
 #include "tests/support/Pump.h"
@@ -51,15 +50,13 @@ protected:
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return Default() != 0 && m_ncCreateResult; }
     afx_msg int OnCreate(LPCREATESTRUCT) {
         ++m_created;
-        if (m_onCreate) {
+        if (m_onCreate)
             m_onCreate();
-        }
         return m_createResult;
     }
     afx_msg void OnPaint() {
-        if (m_onPaint) {
+        if (m_onPaint)
             m_onPaint();
-        }
         CWnd::OnPaint();
     }
     afx_msg LRESULT OnCall(WPARAM, LPARAM) { return m_onCall ? m_onCall() : 0; }
@@ -141,9 +138,8 @@ TEST(WindowCreation, AnObjectThatDeletesItselfMayFail) {
         window->m_createResult = result;
         const BOOL created = window->CreateTop();
         EXPECT_EQ(created, result == 0);
-        if (created) {
+        if (created)
             window->DestroyWindow();
-        }
         EXPECT_EQ(alive, 0);
     }
 }
@@ -201,6 +197,8 @@ TEST_F(Handles, TemporaryObjectsComeAndGo) {
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(m_edit));
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    const CWnd* volatile none = nullptr; // volatile: the compiler need not know
+    EXPECT_EQ(none->GetSafeHwnd(), nullptr);
 }
 
 TEST_F(Handles, AttachLeavesTheBehaviourAsItIs) {
@@ -215,21 +213,14 @@ TEST_F(Handles, AttachLeavesTheBehaviourAsItIs) {
     EXPECT_EQ(window.Detach(), nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(m_edit), nullptr);
     EXPECT_FALSE(window.Attach(nullptr));
-}
-
-TEST_F(Handles, AnAttachedWindowIsDestroyedThroughItsObject) {
-    Window window;
     window.Attach(m_edit);
-    EXPECT_TRUE(window.DestroyWindow());
+    EXPECT_TRUE(window.DestroyWindow()); // an attached window is destroyed through its object
     EXPECT_FALSE(::IsWindow(m_edit));
     EXPECT_EQ(window.m_hWnd, nullptr);
 }
 
 TEST_F(Handles, TheDestructorDestroysTheWindow) {
-    {
-        Window window;
-        window.SubclassWindow(m_edit);
-    }
+    { Window().SubclassWindow(m_edit); }
     EXPECT_FALSE(::IsWindow(m_edit));
 }
 
@@ -268,31 +259,20 @@ TEST_F(Handles, AWindowSubclassedByOthersEndsInOrder) {
     EXPECT_EQ(window.m_hWnd, nullptr);
 }
 
-TEST(WindowHandles, NullPointersHaveNoHandle) {
-    const CWnd* volatile none = nullptr;
-    const CWnd* const wnd = none;
-    EXPECT_EQ(wnd->GetSafeHwnd(), nullptr);
-}
-
 // ---- Default handling and exceptions ------------------------------------------------------------
 
 TEST(WindowMessages, DefaultUsesTheParametersOfTheMessage) {
     class Upper : public CWnd {
     public:
-        static const MSG* Current() { return GetCurrentMessage(); }
         bool m_sawMessage = false;
 
     protected:
-        LRESULT OnWmSetText(LPCTSTR) {
+        BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+            if (message != WM_SETTEXT)
+                return CWnd::OnWndMsg(message, wParam, lParam, result);
             m_sawMessage = GetCurrentMessage()->message == WM_SETTEXT;
             SendMessage(WM_NULL); // a message in between does not replace the current one
-            return Default();
-        }
-        BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
-            if (message != WM_SETTEXT) {
-                return CWnd::OnWndMsg(message, wParam, lParam, result);
-            }
-            *result = OnWmSetText("something else");
+            *result = Default();
             return TRUE;
         }
     } window;
@@ -314,9 +294,8 @@ public:
     LRESULT ProcessWndProcException(CException* e, const MSG* msg) override {
         ++m_exceptions;
         m_memory = e->IsKindOf(RUNTIME_CLASS(CMemoryException)) != FALSE;
-        if (m_throwAgain) {
+        if (m_throwAgain)
             AfxThrowNotSupportedException();
-        }
         return msg->message == WM_CALL ? 99 : CWinThread::ProcessWndProcException(e, msg);
     }
 };
@@ -362,9 +341,8 @@ TEST(WindowMessages, TheMainWindowEndsTheLoop) {
     EXPECT_EQ(app.m_pMainWnd, nullptr);
     MSG msg;
     bool quit = false;
-    while (!quit && ::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE)) {
+    while (!quit && ::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
         quit = msg.message == WM_QUIT;
-    }
     EXPECT_TRUE(quit);
 }
 
@@ -428,13 +406,9 @@ TEST_F(Family, MessagesToDescendants) {
     EXPECT_EQ(calls, 3);
     EXPECT_EQ(m_top.GetDescendantWindow(2), &m_grandchild);
     EXPECT_EQ(m_top.GetDescendantWindow(3), nullptr);
-}
-
-TEST_F(Family, ColourChangesReachTheDescendants) {
     m_grandchild.m_messages.clear();
     m_top.SendMessage(WM_SYSCOLORCHANGE);
-    ASSERT_EQ(m_grandchild.m_messages.size(), 1U);
-    EXPECT_EQ(m_grandchild.m_messages[0], static_cast<UINT>(WM_SYSCOLORCHANGE));
+    EXPECT_EQ(m_grandchild.m_messages, (std::vector<UINT>{WM_SYSCOLORCHANGE}));
 }
 
 TEST_F(Family, Centring) {
@@ -453,13 +427,11 @@ TEST_F(Family, Centring) {
 TEST_F(Family, StylesChangeOnlyIfTheyDiffer) {
     EXPECT_TRUE(m_child.ModifyStyle(0, WS_TABSTOP));
     EXPECT_FALSE(m_child.ModifyStyle(0, WS_TABSTOP));
-    EXPECT_TRUE((m_child.GetStyle() & WS_TABSTOP) != 0);
     EXPECT_TRUE(m_child.ModifyStyle(WS_TABSTOP, WS_BORDER, SWP_FRAMECHANGED));
+    EXPECT_EQ(m_child.GetStyle() & (WS_TABSTOP | WS_BORDER), DWORD{WS_BORDER});
     CRect client;
     m_child.GetClientRect(&client);
     EXPECT_EQ(client, CRect(0, 0, 58, 38));
-    EXPECT_TRUE(m_child.ModifyStyleEx(0, WS_EX_TRANSPARENT));
-    EXPECT_TRUE((m_child.GetExStyle() & WS_EX_TRANSPARENT) != 0);
 }
 
 /// A window that takes one message before it is dispatched.
@@ -518,9 +490,7 @@ TEST(WindowMessages, AMenuMeasuresAndDrawsItsItems) {
     ASSERT_TRUE(menu.CreatePopupMenu());
     menu.AppendMenu(MF_STRING, 200, "plain");
     menu.AppendMenu(MF_OWNERDRAW, 201);
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = 201;
+    MEASUREITEMSTRUCT measure = {ODT_MENU, 0, 201, 0, 0, 0};
     const auto parameter = reinterpret_cast<LPARAM>(&measure);
     window.SendMessage(WM_MEASUREITEM, 0, parameter);
     EXPECT_EQ(menu.m_measured, 0U); // nobody knows of the menu yet
@@ -528,10 +498,8 @@ TEST(WindowMessages, AMenuMeasuresAndDrawsItsItems) {
     EXPECT_EQ(window.SendMessage(WM_MEASUREITEM, 0, parameter), TRUE);
     EXPECT_EQ(menu.m_measured, 201U);
     EXPECT_EQ(measure.itemWidth, 40U);
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = ODT_MENU;
-    draw.itemID = 201;
-    draw.hwndItem = reinterpret_cast<HWND>(menu.m_hMenu);
+    const auto handle = reinterpret_cast<HWND>(menu.m_hMenu);
+    DRAWITEMSTRUCT draw = {ODT_MENU, 0, 201, 0, 0, handle, nullptr, {}, 0};
     window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
     EXPECT_EQ(menu.m_drawn, 201U);
 }
