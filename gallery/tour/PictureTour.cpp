@@ -68,15 +68,15 @@ void PictureTour::Run() {
 
 void PictureTour::VisitScenes(const std::string& scheme) {
     const bool isDefault = scheme == "default";
-    ChooseScene(0);
+    ChooseScene("Buttons");
     const std::string suffix = isDefault ? "" : "-" + scheme;
     TourButtons(*this, suffix);
-    ChooseScene(1);
+    ChooseScene("Pictures");
     TourPictures(*this, suffix);
 
     // The whole window, with something hot in it.  Drawn afresh: Wine's check box may keep its focus
     // mark after the focus has gone.
-    ChooseScene(0);
+    ChooseScene("Buttons");
     ::RedrawWindow(m_gallery, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     automation::MoveMouseOver(::GetDlgItem(Page(), IDC_SUBJECT));
     const automation::Picture window = automation::WaitUntilSteady(m_gallery);
@@ -94,8 +94,10 @@ HWND PictureTour::Page() const {
     return page;
 }
 
-void PictureTour::ChooseScene(int index) const {
+void PictureTour::ChooseScene(const char* title) const {
     const HWND list = ::GetDlgItem(m_gallery, IDC_SCENES);
+    const LRESULT index = ::SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(title));
     RECT item = {};
     ::SendMessageA(list, LB_GETITEMRECT, index, reinterpret_cast<LPARAM>(&item));
     POINT middle = {(item.left + item.right) / 2, (item.top + item.bottom) / 2};

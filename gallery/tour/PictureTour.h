@@ -36,8 +36,8 @@ public:
     /// The page that the gallery shows now.
     HWND Page() const;
 
-    /// Chooses a scene by a click in the list.
-    void ChooseScene(int index) const;
+    /// Chooses a scene by a click on its title in the list.
+    void ChooseScene(const char* title) const;
 
     /// Moves the mouse to where it touches nothing.
     void ParkMouse() const;
