@@ -4,6 +4,7 @@
 #include "draw/BufferDC.h"
 #include "draw/Hls.h"
 #include "draw/Selectors.h"
+#include "draw/Skin.h"
 
 namespace {
 
@@ -15,21 +16,35 @@ constexpr COLORREF kPressedText = RGB(0xF0, 0xF0, 0xF0);
 BEGIN_MESSAGE_MAP(CButtonXP, CButton)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_REGISTERED_MESSAGE(tint::skinSwitchMessage, &CButtonXP::OnSkinSwitch)
 END_MESSAGE_MAP()
 
 void CButtonXP::PreSubclassWindow() {
     CButton::PreSubclassWindow();
-    ModifyStyle(0, BS_OWNERDRAW);
+    if (tint::IsSkinEnabled(m_hWnd))
+        ModifyStyle(0, BS_OWNERDRAW);
     m_hover.Attach(m_hWnd, CMouseHoverTracker::kRepaint);
 }
 
+// The system's own button, which it is without its skin, follows the mouse by itself.
 void CButtonXP::OnMouseMove(UINT, CPoint) {
     Default();
-    m_hover.OnMouseMove(m_hWnd);
+    if (tint::IsSkinEnabled(m_hWnd))
+        m_hover.OnMouseMove(m_hWnd);
 }
 
 void CButtonXP::OnMouseLeave() {
+    if (!tint::IsSkinEnabled(m_hWnd))
+        Default();
     m_hover.OnMouseLeave(m_hWnd);
+}
+
+LRESULT CButtonXP::OnSkinSwitch(WPARAM enabled, LPARAM) {
+    // The default button may be another one by now than it was when the dialog was loaded.
+    const UINT plain = IsDialogDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    const UINT kept = LOWORD(GetStyle()) & ~UINT{BS_TYPEMASK};
+    SetButtonStyle(kept | (enabled != FALSE ? UINT{BS_OWNERDRAW} : plain), TRUE);
+    return 0;
 }
 
 void CButtonXP::DrawItem(LPDRAWITEMSTRUCT item) {

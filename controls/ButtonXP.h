@@ -14,7 +14,7 @@
 ///     };
 ///
 /// Subclass any push button of a dialog with it; nothing else about the button changes.  It shows text
-/// only, on one line.
+/// only, on one line.  tint::EnableSkin turns it into the system's own button and back.
 ///
 /// | condition          | frame                              | face                          | text        |
 /// |--------------------|------------------------------------|-------------------------------|-------------|
@@ -31,6 +31,7 @@ public:
 protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnMouseLeave();
+    afx_msg LRESULT OnSkinSwitch(WPARAM enabled, LPARAM unused);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -15,6 +15,7 @@
 #include "automation/RealInput.h"
 #include "automation/SystemColors.h"
 #include "draw/Hls.h"
+#include "draw/Skin.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/DialogTemplate.h"
 #include "tests/support/GdiLedger.h"
@@ -262,6 +263,65 @@ TEST(ButtonXP, SubclassingOnlyAddsTheOwnerDrawStyle) {
     const ButtonDialog plain(BS_PUSHBUTTON | WS_GROUP | BS_NOTIFY);
     const DWORD expected = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | BS_NOTIFY | BS_OWNERDRAW;
     EXPECT_EQ(plain.m_subject.GetStyle(), expected);
+}
+
+TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
+    ButtonDialog dialog;
+    CButtonXP& subject = dialog.m_subject;
+    CRect rect;
+    subject.GetWindowRect(rect);
+    CButton plain;
+    plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({10, 100}, rect.Size()), &dialog,
+                 kOther + 10);
+    plain.SetFont(dialog.GetFont());
+    const auto showsTheSame = [&] {
+        return PumpUntil([&] {
+            return automation::CaptureWindow(subject.m_hWnd) == automation::CaptureWindow(plain.m_hWnd);
+        });
+    };
+    const DWORD skinned = subject.GetStyle();
+    const DWORD common = skinned & ~DWORD{BS_TYPEMASK};
+
+    tint::EnableSkin(subject.m_hWnd, false);
+    EXPECT_FALSE(tint::IsSkinEnabled(subject.m_hWnd));
+    EXPECT_TRUE(tint::IsSkinEnabled(plain.m_hWnd)) << "the others stay as they are";
+    EXPECT_FALSE(subject.GetUpdateRect(nullptr)) << "repainted at once";
+    EXPECT_EQ(subject.GetStyle(), common | BS_PUSHBUTTON);
+    EXPECT_TRUE(showsTheSame());
+    automation::MoveMouseOver(subject.m_hWnd);
+    PumpFor();
+    EXPECT_TRUE(showsTheSame()) << "no tint under the mouse";
+    automation::PressMouse();
+    automation::ReleaseMouse();
+    EXPECT_TRUE(PumpUntil([&] { return dialog.m_clicks == 1; })) << "it still notifies";
+    dialog.GotoDlgCtrl(dialog.GetDlgItem(kOther));
+    ButtonDialog::ParkMouse();
+
+    tint::EnableSkin(subject.m_hWnd, true);
+    EXPECT_FALSE(subject.GetUpdateRect(nullptr)) << "repainted at once";
+    EXPECT_EQ(subject.GetStyle(), skinned);
+    EXPECT_TRUE(ComesToShow(dialog, Resting()));
+    automation::MoveMouseOver(subject.m_hWnd);
+    EXPECT_TRUE(ComesToShow(dialog, Hot()));
+
+    dialog.SetDefID(kSubject);
+    tint::EnableSkin(subject.m_hWnd, false);
+    EXPECT_EQ(subject.GetStyle(), common | BS_DEFPUSHBUTTON) << "switched off as the default button";
+}
+
+TEST(ButtonXP, TheSkinMayBeSwitchedOffBeforeItIsThere) {
+    ButtonDialog dialog;
+    const HWND other = ::GetDlgItem(dialog, kOther);
+    const DWORD before = ::GetWindowLongA(other, GWL_STYLE);
+    tint::EnableSkin(other, false);
+    tint::EnableSkin(nullptr, false);
+    EXPECT_TRUE(tint::IsSkinEnabled(nullptr));
+    CButtonXP late;
+    late.SubclassWindow(other);
+    EXPECT_EQ(late.GetStyle(), before);
+    tint::EnableSkin(other, true);
+    EXPECT_EQ(late.GetStyle(), before | BS_OWNERDRAW);
+    late.UnsubclassWindow();
 }
 
 /// A draw request as the system would send it, on a canvas of the button's size.
