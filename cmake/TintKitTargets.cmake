@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 # The shapes our targets come in, so that a folder's CMakeLists.txt only lists what it holds.
 
+set(TINTKIT_HEADER_DIR "${CMAKE_INSTALL_INCLUDEDIR}/tintkit")
+
 # What libraries and programs have in common.
 function(tintkit_configure target)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:tintkit_settings>)
@@ -9,14 +11,22 @@ function(tintkit_configure target)
     endif()
     target_include_directories(${target} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-        $<INSTALL_INTERFACE:include/tintkit>)
+        $<INSTALL_INTERFACE:${TINTKIT_HEADER_DIR}>)
 endfunction()
 
 # tintkit_add_library(NAME SOURCE...): the static library TintKit::NAME.
 function(tintkit_add_library name)
     add_library(tintkit_${name} STATIC ${ARGN})
     add_library(TintKit::${name} ALIAS tintkit_${name})
-    set_target_properties(tintkit_${name} PROPERTIES EXPORT_NAME ${name})
+    # A Debug and a Release library can be installed side by side.
+    set_target_properties(tintkit_${name} PROPERTIES EXPORT_NAME ${name} DEBUG_POSTFIX d)
+    target_compile_features(tintkit_${name} PUBLIC cxx_std_17) # its headers' too
+    if(MSVC)
+        # Into the debug information of the user's program.
+        target_link_options(tintkit_${name} INTERFACE
+            $<BUILD_INTERFACE:/NATVIS:${PROJECT_SOURCE_DIR}/tintkit.natvis>
+            $<INSTALL_INTERFACE:/NATVIS:$<INSTALL_PREFIX>/${CMAKE_INSTALL_DATADIR}/tintkit/tintkit.natvis>)
+    endif()
     tintkit_configure(tintkit_${name})
 endfunction()
 

@@ -26,9 +26,10 @@ ALLOWED = {
     "imageinfo": {"image"},
 }
 # These use whatever they show, measure or test.
-EVERYTHING = {"gallery", "benchmarks", "fuzz", "tests"}
+EVERYTHING = {"gallery", "samples", "benchmarks", "fuzz", "tests"}
 # The framework's umbrella headers are MFC's, so these build against either.
-USES_FRAMEWORK = {"draw", "controls", "menus", "decorations", "automation", "gallery", "benchmarks"}
+USES_FRAMEWORK = {"draw", "controls", "menus", "decorations", "automation", "gallery", "samples",
+                  "benchmarks"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 UMBRELLA = re.compile(r"^(afx\w*|atl\w*)\.h$")
