@@ -62,8 +62,9 @@ int Fail(const char* path, const char* why) {
 int main(int argc, char** argv) {
     const int size = argc > 3 ? std::atoi(argv[3]) : kDefaultSize;
     if (argc < 2 || argc > 4 || size < 1 || size > kLargestSize) {
-        std::fprintf(stderr, "usage: thumbnail PICTURE [OUT.bmp [SIZE]]\n"
-                             "  SIZE  of the longer side in pixels, 1 to %d (%d)\n",
+        std::fprintf(stderr,
+                     "usage: thumbnail PICTURE [OUT.bmp [SIZE]]\n"
+                     "  SIZE  of the longer side in pixels, 1 to %d (%d)\n",
                      kLargestSize, kDefaultSize);
         return 2;
     }

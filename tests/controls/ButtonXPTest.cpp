@@ -271,12 +271,13 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     CRect rect;
     subject.GetWindowRect(rect);
     CButton plain;
-    plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({10, 100}, rect.Size()), &dialog,
-                 kOther + 10);
+    plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({10, 100}, rect.Size()),
+                 &dialog, kOther + 10);
     plain.SetFont(dialog.GetFont());
     const auto showsTheSame = [&] {
         return PumpUntil([&] {
-            return automation::CaptureWindow(subject.m_hWnd) == automation::CaptureWindow(plain.m_hWnd);
+            return automation::CaptureWindow(subject.m_hWnd) ==
+                   automation::CaptureWindow(plain.m_hWnd);
         });
     };
     const DWORD skinned = subject.GetStyle();
@@ -306,7 +307,8 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
 
     dialog.SetDefID(kSubject);
     tint::EnableSkin(subject.m_hWnd, false);
-    EXPECT_EQ(subject.GetStyle(), common | BS_DEFPUSHBUTTON) << "switched off as the default button";
+    EXPECT_EQ(subject.GetStyle(), common | BS_DEFPUSHBUTTON)
+        << "switched off as the default button";
 }
 
 TEST(ButtonXP, TheSkinMayBeSwitchedOffBeforeItIsThere) {
