@@ -270,6 +270,7 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     CButtonXP& subject = dialog.m_subject;
     CRect rect;
     subject.GetWindowRect(rect);
+    dialog.SetWindowPos(nullptr, 0, 0, 300, 200, SWP_NOMOVE | SWP_NOZORDER); // room for one more
     CButton plain;
     plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({10, 100}, rect.Size()),
                  &dialog, kOther + 10);
