@@ -14,6 +14,12 @@ public:
         dialog.DoModal();
         return FALSE; // the dialog is closed: no message loop is wanted
     }
+
+    // Without a message loop there was no PostQuitMessage to name an exit code.
+    int ExitInstance() override {
+        CWinApp::ExitInstance();
+        return 0;
+    }
 };
 
 CHelloApp theApp;
