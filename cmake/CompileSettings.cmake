@@ -10,7 +10,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 # COMPILE_LANGUAGE keeps the compiler's options away from the resource compiler.
 if(MSVC)
     target_compile_options(tintkit_settings INTERFACE
-        $<$<COMPILE_LANGUAGE:CXX>:/W4 /WX /permissive- /utf-8>)
+        $<$<COMPILE_LANGUAGE:CXX>:/W4 /WX /permissive- /utf-8 /external:anglebrackets /external:W0>)
 else()
     target_compile_options(tintkit_settings INTERFACE
         $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Werror>)

@@ -3,8 +3,8 @@
 """Checks that the folders depend on each other only as the architecture allows.
 
 For every C++ source: the folders named by its #include "..." lines must be allowed for the folder
-the source is in, the framework is included by its umbrella headers only, and what uses it contains
-no conditional on which framework it is compiled against.
+the source is in, the framework is included by its umbrella headers only and before <windows.h>, and
+what uses it contains no conditional on which framework it is compiled against.
 """
 
 import re
@@ -69,6 +69,31 @@ def faults_in(path, folder):
             yield number, "what differs by framework or compiler belongs in framework/"
 
 
+def includes_in_order(path, seen):
+    """The <> headers that compiling `path` meets, in order, each file entered once."""
+    if path in seen:
+        return
+    seen.add(path)
+    for line in path.read_text(encoding="utf-8").splitlines():
+        include = INCLUDE.match(line)
+        if include and include.group(1) == "<":
+            yield include.group(2)
+        elif include:
+            near = [base / include.group(2) for base in (path.parent, ROOT)]
+            for found in [header for header in near if header.is_file()][:1]:
+                yield from includes_in_order(found, seen)
+
+
+def order_fault(path):
+    """MFC's headers include <windows.h> themselves and refuse to compile where they find it included."""
+    windows = False
+    for name in includes_in_order(path, set()):
+        if UMBRELLA.match(name):
+            return f"<{name}> comes after <windows.h>, which MFC refuses" if windows else None
+        windows |= name.lower() in ("windows.h", "windowsx.h", "commctrl.h", "psapi.h", "shellapi.h")
+    return None
+
+
 def main():
     checked = failed = 0
     for folder in sorted(set(ALLOWED) | EVERYTHING):
@@ -76,7 +101,11 @@ def main():
             if path.suffix not in (".h", ".cpp", ".rc"):
                 continue
             checked += 1
-            for number, fault in faults_in(path, folder):
+            faults = list(faults_in(path, folder))
+            order = order_fault(path) if path.suffix == ".cpp" and folder != "framework" else None
+            if order:
+                faults.append((1, order))
+            for number, fault in faults:
                 failed += 1
                 print(f"{path.relative_to(ROOT)}:{number}: {fault}")
     print(f"{checked} files checked, {failed} faults")

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "gallery/tour/PictureSheet.h"
-
+// MFC wants to be the one that includes <windows.h>.
 #include <afxwin.h>
+
+#include "gallery/tour/PictureSheet.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "tests/support/Pump.h"
-
+// MFC wants to be the one that includes <windows.h>.
 #include <afxwin.h>
+
+#include "tests/support/Pump.h"
 
 bool PumpUntil(const std::function<bool()>& done) {
     constexpr ULONGLONG limit = 5000; // milliseconds
