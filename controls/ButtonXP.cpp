@@ -26,16 +26,14 @@ void CButtonXP::PreSubclassWindow() {
     m_hover.Attach(m_hWnd, CMouseHoverTracker::kRepaint);
 }
 
-// The system's own button, which it is without its skin, follows the mouse by itself.
 void CButtonXP::OnMouseMove(UINT, CPoint) {
     Default();
-    if (tint::IsSkinEnabled(m_hWnd))
-        m_hover.OnMouseMove(m_hWnd);
+    m_hover.OnMouseMove(m_hWnd);
 }
 
 void CButtonXP::OnMouseLeave() {
     if (!tint::IsSkinEnabled(m_hWnd))
-        Default();
+        Default(); // the system's own button has a hot state too
     m_hover.OnMouseLeave(m_hWnd);
 }
 

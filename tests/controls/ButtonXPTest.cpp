@@ -290,21 +290,16 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     EXPECT_FALSE(subject.GetUpdateRect(nullptr)) << "repainted at once";
     EXPECT_EQ(subject.GetStyle(), common | BS_PUSHBUTTON);
     EXPECT_TRUE(showsTheSame());
-    automation::MoveMouseOver(subject.m_hWnd);
-    PumpFor();
-    EXPECT_TRUE(showsTheSame()) << "no tint under the mouse";
-    automation::PressMouse();
-    automation::ReleaseMouse();
+    automation::Click(subject.m_hWnd);
     EXPECT_TRUE(PumpUntil([&] { return dialog.m_clicks == 1; })) << "it still notifies";
-    dialog.GotoDlgCtrl(dialog.GetDlgItem(kOther));
-    ButtonDialog::ParkMouse();
 
     tint::EnableSkin(subject.m_hWnd, true);
     EXPECT_FALSE(subject.GetUpdateRect(nullptr)) << "repainted at once";
     EXPECT_EQ(subject.GetStyle(), skinned);
+    EXPECT_TRUE(ComesToShow(dialog, Focused(Hot()))) << "the mouse is still over it";
+    dialog.GotoDlgCtrl(dialog.GetDlgItem(kOther));
+    ButtonDialog::ParkMouse();
     EXPECT_TRUE(ComesToShow(dialog, Resting()));
-    automation::MoveMouseOver(subject.m_hWnd);
-    EXPECT_TRUE(ComesToShow(dialog, Hot()));
 
     dialog.SetDefID(kSubject);
     tint::EnableSkin(subject.m_hWnd, false);
