@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
-# The target `docs`: reference pages from the headers that are installed, and the pages of docs/, as
+# The target `docs` (setup/docs): reference pages from the headers that are installed, and the pages of docs/, as
 # build/PRESET/reference/html/index.html. Any warning of Doxygen's fails it.
 find_package(Doxygen 1.9 QUIET)
 if(NOT Doxygen_FOUND)
     add_custom_target(docs
         COMMAND ${CMAKE_COMMAND} -E echo
-            "The reference is made by Doxygen (setup/packages/docs.txt), which was not found."
+            "The reference is made by Doxygen, which was not found: see setup/docs."
         COMMAND ${CMAKE_COMMAND} -E false)
     return()
 endif()
