@@ -38,13 +38,6 @@ public:
 
     bool WaitUntilIdle() const { return ::WaitForInputIdle(m_process.hProcess, 30'000) == 0; }
 
-    /// Its visible top-level window, null while there is none.
-    HWND Window() const {
-        Search search = {m_process.dwProcessId, nullptr};
-        ::EnumWindows(&Visit, reinterpret_cast<LPARAM>(&search));
-        return search.found;
-    }
-
     /// How it ended, STILL_ACTIVE if it has not within some seconds.
     DWORD ExitCode() const {
         ::WaitForSingleObject(m_process.hProcess, 10'000);
@@ -54,21 +47,6 @@ public:
     }
 
 private:
-    struct Search {
-        DWORD process;
-        HWND found;
-    };
-
-    static BOOL CALLBACK Visit(HWND window, LPARAM data) {
-        auto& search = *reinterpret_cast<Search*>(data);
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        if (process != search.process || !::IsWindowVisible(window))
-            return TRUE;
-        search.found = window;
-        return FALSE;
-    }
-
     PROCESS_INFORMATION m_process = {};
 };
 
@@ -88,8 +66,11 @@ TEST(HelloDialog, AppearsPaintedAndAnswers) {
     automation::MoveMouse({1, 1});
     const Sample sample;
     ASSERT_TRUE(sample.WaitUntilIdle());
-    ASSERT_TRUE(PumpUntil([&] { return sample.Window() != nullptr; }));
-    const HWND dialog = sample.Window();
+    HWND dialog = nullptr;
+    ASSERT_TRUE(PumpUntil([&] {
+        dialog = ::FindWindowA("#32770", "Hello");
+        return ::IsWindowVisible(dialog) != FALSE;
+    }));
     const HWND cancel = ::GetDlgItem(dialog, IDCANCEL);
     EXPECT_TRUE(ComesToShowSkin(cancel, true));
 
