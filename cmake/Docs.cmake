@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The target `docs` (setup/docs): reference pages from the headers that are installed, and the pages of docs/, as
-# build/PRESET/reference/html/index.html. Any warning of Doxygen's fails it.
+# The target `docs` (setup/docs): reference pages from the headers that are installed, and the pages of
+# docs/, as build/PRESET/reference/html/index.html. Any warning of Doxygen's fails it.
 find_package(Doxygen 1.9 QUIET)
 if(NOT Doxygen_FOUND)
     add_custom_target(docs
