@@ -18,18 +18,19 @@ UINT tint::skinSwitchMessage = 0;
 void tint::EnableSkin(HWND window, bool enabled) {
     if (enabled == IsSkinEnabled(window))
         return;
+    if (skinSwitchMessage == 0)
+        skinSwitchMessage = ::RegisterWindowMessageA("TintKit.SkinSwitch");
     if (enabled)
         ::RemovePropA(window, kSkinOff);
     else if (!::SetPropA(window, kSkinOff, Mark()))
         return;
 
-    if (skinSwitchMessage == 0)
-        skinSwitchMessage = ::RegisterWindowMessageA("TintKit.SkinSwitch");
     ::SendMessageA(window, skinSwitchMessage, enabled ? TRUE : FALSE, 0);
     ::RedrawWindow(window, nullptr, nullptr,
                    RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 bool tint::IsSkinEnabled(HWND window) {
-    return ::GetPropA(window, kSkinOff) == nullptr;
+    // Where no skin was ever switched off, which is nearly everywhere, the window need not be asked.
+    return skinSwitchMessage == 0 || ::GetPropA(window, kSkinOff) == nullptr;
 }

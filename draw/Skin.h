@@ -20,7 +20,7 @@ namespace tint {
 void EnableSkin(HWND window, bool enabled);
 
 /// Whether a window shows its skin, which it does until EnableSkin says otherwise; true for what is no
-/// window.  Cheap enough to be asked at each paint.
+/// window.  Cheap enough to be asked at each paint: it costs nothing until some skin is switched off.
 bool IsSkinEnabled(HWND window);
 
 /// Sent to a window whose skin was switched: `wParam` is TRUE for on.  For a control that has to put
