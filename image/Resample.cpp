@@ -20,7 +20,7 @@ constexpr uint32_t kStripPixels = 4096;       // of the source, where it shrinks
 constexpr uint32_t kBandRows = 65536;         // whose weights are kept
 constexpr uint32_t kRowsAtOnce = 16;          // source rows summed in one go
 constexpr uint32_t kOutputsAtOnce = 4;        // target rows from the same source rows
-constexpr uint64_t kBytesPerSourcePixel = 24; // of a strip: bytes, spaced floats, weights
+constexpr uint64_t kFloatBytesPerPixel = 20; // of a source strip: spaced floats, weights
 
 /// A resampling in progress: vertical strips, one after another, each from the first row to the
 /// last, so that what a row needs of the rows around it is still in the processor's cache.
@@ -28,7 +28,8 @@ class Resampler {
 public:
     Resampler(const IsImage& source, IsImage& target, const ResampleMethod& method,
               const ResampleOps& ops)
-        : m_ops(ops), m_source(source, method.overflow), m_target(target) {
+        : m_ops(ops), m_source(source, method.overflow), m_target(target),
+          m_indexed(source.BitCount() != 24) {
         m_columns = {source.Width(), target.Width(), nullptr};
         m_rows = {source.Height(), target.Height(), nullptr};
         const Kernel& kernel = KernelOf(method.interpolation);
@@ -45,9 +46,13 @@ public:
         const uint64_t span =
             static_cast<uint64_t>(StripColumns()) * m_columns.source / m_columns.target +
             m_columns.MaxTaps();
+        // Rows of a picture with a palette become bytes first, as many as are summed at once.
+        const uint32_t rowsAtOnce =
+            m_indexed && m_rows.Shrinks() ? std::min(kRowsAtOnce, m_rows.MaxTaps()) : 1;
+        const uint64_t bytesPerPixel = kFloatBytesPerPixel + 3 * rowsAtOnce;
         const uint64_t rows = std::min(kBandRows, m_rows.target);
         const uint64_t bytesPerRow = m_rows.MaxTaps() * uint64_t{sizeof(float)} + sizeof(int64_t);
-        return span * kBytesPerSourcePixel + rows * bytesPerRow;
+        return span * bytesPerPixel + rows * bytesPerRow;
     }
 
     void Run() {
@@ -159,6 +164,7 @@ private:
     const ResampleOps& m_ops;
     const ResampleSource m_source;
     ResampleTarget m_target;
+    bool m_indexed;
     ResampleAxis m_columns;
     ResampleAxis m_rows;
     float m_bias; ///< added before the sums are cut to whole numbers
@@ -196,8 +202,13 @@ bool IsImage::Resample(int32_t newWidth, int32_t newHeight, int32_t interpolatio
         SetErrorText(refusal);
         return false;
     }
-    if (newWidth == header.biWidth && newHeight == header.biHeight)
-        return !target || target->Copy(*this);
+    SetErrorText(nullptr);
+    if (newWidth == header.biWidth && newHeight == header.biHeight) {
+        if (!target || target->Copy(*this))
+            return true;
+        SetErrorText(target->LastErrorText());
+        return false;
+    }
 
     IsImage resized;
     resized.CopyInfo(*this);
