@@ -15,11 +15,11 @@ using namespace tint;
 
 namespace {
 
-constexpr uint32_t kStripColumns = 128;       // of the target: its rows of floats stay in cache
-constexpr uint32_t kStripPixels = 4096;       // of the source, where it shrinks
-constexpr uint32_t kBandRows = 65536;         // whose weights are kept
-constexpr uint32_t kRowsAtOnce = 16;          // source rows summed in one go
-constexpr uint32_t kOutputsAtOnce = 4;        // target rows from the same source rows
+constexpr uint32_t kStripColumns = 128;      // of the target: its rows of floats stay in cache
+constexpr uint32_t kStripPixels = 4096;      // of the source, where it shrinks
+constexpr uint32_t kBandRows = 65536;        // whose weights are kept
+constexpr uint32_t kRowsAtOnce = 16;         // source rows summed in one go
+constexpr uint32_t kOutputsAtOnce = 4;       // target rows from the same source rows
 constexpr uint64_t kFloatBytesPerPixel = 20; // of a source strip: spaced floats, weights
 
 /// A resampling in progress: vertical strips, one after another, each from the first row to the
@@ -43,9 +43,8 @@ public:
 
     /// Bytes of working memory, about.
     uint64_t WorkingBytes() const {
-        const uint64_t span =
-            static_cast<uint64_t>(StripColumns()) * m_columns.source / m_columns.target +
-            m_columns.MaxTaps();
+        const uint64_t span = (StripColumns() - uint64_t{1}) * m_columns.source / m_columns.target +
+                              1 + m_columns.MaxTaps();
         // Rows of a picture with a palette become bytes first, as many as are summed at once.
         const uint32_t rowsAtOnce =
             m_indexed && m_rows.Shrinks() ? std::min(kRowsAtOnce, m_rows.MaxTaps()) : 1;

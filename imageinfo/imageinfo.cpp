@@ -100,8 +100,8 @@ void PrintInfo(const std::string& path, tint::ImageFormat format, const IsImage&
     const IsImage& shown = ok ? image : nothing;
     const tint::ImageInfo& info = shown.Info();
     printf("{\"file\": %s, \"ok\": %s, \"error\": %s, \"format\": \"%s\", ",
-           JsonString(path).c_str(), ok ? "true" : "false",
-           JsonString(error).c_str(), tint::FormatName(format));
+           JsonString(path).c_str(), ok ? "true" : "false", JsonString(error).c_str(),
+           tint::FormatName(format));
     printf("\"width\": %u, \"height\": %u, \"bitCount\": %u, \"paletteEntries\": %u, ",
            static_cast<unsigned>(shown.Width()), static_cast<unsigned>(shown.Height()),
            static_cast<unsigned>(shown.BitCount()), static_cast<unsigned>(shown.PaletteEntries()));
