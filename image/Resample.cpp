@@ -60,10 +60,12 @@ public:
         for (uint32_t row = 0; row < height; row += std::min(kBandRows, height - row)) {
             m_band = row;
             m_bandWeights = WeightsOf(m_rows, row, std::min(kBandRows, height - row));
+            m_rowsWithin = m_bandWeights.CountWithin(m_rows.source);
             const uint32_t step = StripColumns();
             for (uint32_t column = 0; column < width; column += std::min(step, width - column)) {
                 m_strip = column;
                 m_stripWeights = WeightsOf(m_columns, column, std::min(step, width - column));
+                m_columnsWithin = m_stripWeights.CountWithin(m_columns.source);
                 RunStrip();
             }
         }
@@ -87,6 +89,15 @@ private:
             RunColumnsFirst();
         else
             RunRowsFirst();
+    }
+
+    /// Stores a row.  Pixels whose whole window lies outside the picture take the colour of there as
+    /// it is, whatever their weights add up to.
+    void CloseRow(uint32_t row, uint8_t* out, uint32_t slot) {
+        size_t column = row < m_rowsWithin ? m_columnsWithin : 0;
+        for (; m_source.IsPlainOutside() && column < Columns(); ++column)
+            m_source.PutOutside(out + column * 3);
+        m_target.Close(m_band + row, m_strip, Columns(), slot);
     }
 
     // Rows first: each source row is filtered along itself once, into a ring of as many rows as a
@@ -133,7 +144,7 @@ private:
         m_ops.blendRows(rows, m_bandWeights.taps, m_bandWeights.Of(row), m_bias,
                         static_cast<size_t>(Columns()) * 3, out, outputs);
         for (uint32_t o = 0; o < outputs; ++o)
-            m_target.Close(m_band + row + o, m_strip, Columns(), o);
+            CloseRow(row + o, out[o], o);
     }
 
     // Columns first: the source rows of a target row are summed, and the sum is filtered along
@@ -146,7 +157,7 @@ private:
                 SumRows(row, done, std::min(kRowsAtOnce, m_bandWeights.taps - done));
             uint8_t* const out = m_target.Open(m_band + row, m_strip, Columns(), 0);
             m_ops.filterToBytes(m_sums.data(), m_stripWeights.Table(), m_bias, out);
-            m_target.Close(m_band + row, m_strip, Columns(), 0);
+            CloseRow(row, out, 0);
         }
     }
 
@@ -172,6 +183,8 @@ private:
     uint32_t m_strip = 0; ///< first target column of the strip
     AxisWeights m_bandWeights;
     AxisWeights m_stripWeights;
+    size_t m_rowsWithin = 0; ///< of the band: the first ones, not wholly outside
+    size_t m_columnsWithin = 0;
 
     std::vector<uint8_t> m_bytes[kRowsAtOnce];
     std::vector<float> m_spaced; ///< one source row

@@ -99,34 +99,23 @@ TEST_P(ExifOrders, ValuesOfEveryFormatAreConverted) {
     Bytes machineFloat(4), machineDouble(8);
     memcpy(machineFloat.data(), &single, 4);
     memcpy(machineDouble.data(), &twice, 8);
+    // clang-format off
     const struct {
         int32_t format;
         Bytes value;
         double number;
     } cases[] = {
-        {kByte, {200}, 200},
-        {kAscii, {'7'}, 0},
-        {kShort, b.Number(0xFFFE, 2), 65534},
-        {kLong, b.Number(0xFFFFFFFE, 4), 4294967294.0},
-        {kRational, b.Rational(0, 7, 2).value, 3.5},
+        {kByte, {200}, 200}, {kAscii, {'7'}, 0}, {kUndefined, {7}, 0}, {0, {7}, 0}, {13, {7}, 0},
+        {kShort, b.Number(0xFFFE, 2), 65534}, {kLong, b.Number(0xFFFFFFFE, 4), 4294967294.0},
+        {kSignedByte, {0xFE}, -2}, {kSignedShort, b.Number(0xFFFE, 2), -2},
+        {kSignedLong, b.Number(0xFFFFFFFE, 4), -2}, {kRational, b.Rational(0, 7, 2).value, 3.5},
         {kRational, b.Rational(0, -7, 2).value, -3.5}, // deliberately signed
         {kRational, b.Rational(0, 7, 0).value, 0},
-        {kSignedByte, {0xFE}, -2},
-        {kUndefined, {7}, 0},
-        {kSignedShort, b.Number(0xFFFE, 2), -2},
-        {kSignedLong, b.Number(0xFFFFFFFE, 4), -2},
         {kSignedRational, b.Rational(0, INT32_MIN, -1).value, 2147483648.0},
-        {kFloat, machineFloat, 1.5},
-        {kDouble, machineDouble, -2.25},
-        {0, {7}, 0},
-        {13, {7}, 0},
-    };
+        {kFloat, machineFloat, 1.5}, {kDouble, machineDouble, -2.25}};
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(reader.ConvertAnyFormat(c.value.data(), c.format), c.number) << c.format;
-    const Bytes number = {0x12, 0x34, 0x56, 0x78};
-    EXPECT_EQ(reader.Get16u(number.data()), GetParam() ? 0x1234 : 0x3412);
-    EXPECT_EQ(reader.Get32u(number.data()), GetParam() ? 0x12345678u : 0x78563412u);
-    EXPECT_EQ(ExifReader::Get16m(number.data()), 0x1234);
 }
 
 TEST_P(ExifOrders, DirectoriesAreFollowed) {
@@ -225,6 +214,8 @@ TEST(ExifBlocks, DamageIsNamed) {
     wrongMagic[8] = 43;
     Bytes manyEntries = b.Block({b.Short(0x112, 1)});
     manyEntries[14] = manyEntries[15] = 0xFF;
+    const uint32_t end = 8 + 2 + 12 + 4; // of a directory of one entry
+    const char kOffset[] = "Illegal pointer offset value in EXIF.";
     const struct {
         const char* error;
         Bytes block;
@@ -239,16 +230,13 @@ TEST(ExifBlocks, DamageIsNamed) {
         {"Illegal format code in EXIF dir", b.Block({Entry{0x112, 0, 1, {}}})},
         {"Illegal format code in EXIF dir", b.Block({Entry{0x112, 13, 1, {}}})},
         // Ends one byte behind the block; a count that wraps in 32 bits; an offset that does.
-        {"Illegal pointer offset value in EXIF.",
-         b.Block({Entry{0x10F, kAscii, 5, b.Number(8 + 2 + 12 + 4 - 4, 4)}})},
-        {"Illegal pointer offset value in EXIF.",
-         b.Block({Entry{0x11A, kDouble, 0x20000001, b.Number(8, 4)}})},
-        {"Illegal pointer offset value in EXIF.",
-         b.Block({Entry{0x10F, kAscii, 0x20, b.Number(0xFFFFFFF0, 4)}})},
-        {"Illegal subdirectory link", b.Block({b.Long(0x8769, 8 + 2 + 12 + 4 + 1)})},
+        {kOffset, b.Block({Entry{0x10F, kAscii, 5, b.Number(end - 4, 4)}})},
+        {kOffset, b.Block({Entry{0x11A, kDouble, 0x20000001, b.Number(8, 4)}})},
+        {kOffset, b.Block({Entry{0x10F, kAscii, 0x20, b.Number(0xFFFFFFF0, 4)}})},
+        {"Illegal subdirectory link", b.Block({b.Long(0x8769, end + 1)})},
         {"Illegal subdirectory link", b.Block({b.Long(0xA005, 0xFFFFFFFF)})},
-        {"Illegal subdirectory link", b.Block({b.Short(0x112, 1)}, 27)},
-        {"Illegally sized directory", b.Block({b.Long(0x8769, 8 + 2 + 12 + 4)})},
+        {"Illegal subdirectory link", b.Block({b.Short(0x112, 1)}, end + 1)},
+        {"Illegally sized directory", b.Block({b.Long(0x8769, end)})},
         {"Illegally sized directory", b.Block(std::vector<Bytes>{b.Directory(8, {})}, 0xFFFFFFFF)},
     };
     for (const auto& c : cases) {
@@ -257,7 +245,7 @@ TEST(ExifBlocks, DamageIsNamed) {
         EXPECT_STREQ(read.reader.LastError(), c.error);
     }
     // The last value that fits.
-    EXPECT_TRUE(Read(b.Block({Entry{0x10F, kAscii, 5, b.Number(8 + 2 + 12 + 4 - 5, 4)}})).ok);
+    EXPECT_TRUE(Read(b.Block({Entry{0x10F, kAscii, 5, b.Number(end - 5, 4)}})).ok);
 }
 
 TEST(ExifBlocks, TheFirstDirectoryIsReadTwiceWhenItIsElsewhere) {
@@ -407,18 +395,10 @@ TEST(ExifSections, CommentsAreMadePrintable) {
 
 TEST(ExifSections, ShortFramesAndBlocksAreSafe) {
     const Bytes exif = kIntel.Block({kIntel.Short(0x112, 6), kIntel.Text(0x10F, "A long maker")});
-    for (size_t length = 0; length <= exif.size(); ++length) {
-        const Bytes cut = Cut(exif, length);
-        EXPECT_TRUE(ReadFile(FileOf({Section(0xE1, cut)})).ok) << "the sections are sound";
-        const Read direct(cut);
-        EXPECT_EQ(direct.ok, length == exif.size()) << length;
-    }
+    for (size_t length = 0; length <= exif.size(); ++length)
+        EXPECT_EQ(Read(Cut(exif, length)).ok, length == exif.size()) << length;
     for (size_t length = 0; length < 6; ++length)
         EXPECT_EQ(ReadFile(FileOf({Section(0xC0, Bytes(length, 9))})).reader.Info().height, 0);
-    const Bytes file = FileOf({Section(0xE1, exif), Section(0xFE, {'c'})});
-    for (size_t length = 0; length < file.size() - 3; ++length)
-        EXPECT_FALSE(ReadFile(Cut(file, length)).ok);
-
     EXPECT_FALSE(ExifReader().ReadSections(nullptr, 1));
 }
 

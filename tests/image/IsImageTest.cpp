@@ -289,17 +289,4 @@ TEST(Pixels, OfAPaletteAreTheNearestEntry) {
     EXPECT_FALSE(IsImage().SetPaletteColor(0, Rgb(0)));
 }
 
-TEST(Pixels, AreFlippedInOddAndEvenNumbersOfRows) {
-    for (const uint32_t height : {1u, 2u, 3u, 6u}) {
-        IsImage image;
-        image.CreateImage(1, height, 8);
-        for (uint32_t y = 0; y < height; ++y)
-            image.SetPixelIndex(0, y, static_cast<uint8_t>(y));
-        EXPECT_TRUE(image.FlipRows());
-        for (uint32_t y = 0; y < height; ++y)
-            EXPECT_EQ(image.GetPixelIndex(0, y), height - 1 - y);
-    }
-    EXPECT_FALSE(IsImage().FlipRows());
-}
-
 } // namespace

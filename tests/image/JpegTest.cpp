@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
 // The JPEG codec, on files that the library encodes through our own destination.
-#include "image/CxIOFile.h"
 #include "image/ImageJPG.h"
 #include "tests/image/ExifBuilder.h"
 #include "tests/image/ImageTesting.h"
@@ -272,31 +271,18 @@ TEST(JpegLimits, RefusalsNameTheLimit) {
     EXPECT_EQ(image.GetPixelColor(0, 0).rgbBlue, 0) << "not invented by the library";
 }
 
-TEST(JpegDamage, CutsAndFlippedBytesEndWell) {
-    const LimitsGuard guard;
-    LimitsGuard::Set(&DecodeLimits::maxPixels, 1 << 16);
-    for (const bool progressive : {false, true}) {
-        const Bytes file = WithExif({kIntel.Text(0x10F, "Maker"), kIntel.Short(0x112, 6)},
-                                    progressive ? kProgressive : kFile);
-        size_t firstDecoded = 0;
-        for (size_t at = 0; at < file.size(); ++at) {
-            IsImage image;
-            const bool decoded = Decode(Cut(file, at), image);
-            EXPECT_EQ(*image.LastErrorText() == '\0', decoded);
-            EXPECT_EQ(image.IsEmpty(), !decoded);
-            if (decoded && firstDecoded == 0)
-                firstDecoded = at;
-            // Cut within the tables of a later scan, a progressive file is refused again.
-            EXPECT_TRUE(decoded || progressive || firstDecoded == 0) << at;
-            for (const uint8_t flip : {0x01, 0x80, 0xFF}) {
-                Bytes damaged = file;
-                damaged[at] = static_cast<uint8_t>(damaged[at] ^ flip);
-                IsImage flipped;
-                EXPECT_EQ(Decode(damaged, flipped), !flipped.IsEmpty());
-            }
-        }
-        EXPECT_GT(firstDecoded, 0u) << "an early end is a warning";
+TEST(JpegDamage, CutsEndWellAndMessagesArePassedOn) {
+    const Bytes whole = WithExif({kIntel.Text(0x10F, "Maker"), kIntel.Short(0x112, 6)});
+    size_t decodedCuts = 0;
+    for (size_t length = 0; length < whole.size(); ++length) {
+        IsImage image;
+        const bool decoded = Decode(Cut(whole, length), image);
+        EXPECT_EQ(*image.LastErrorText() == '\0', decoded);
+        EXPECT_EQ(image.IsEmpty(), !decoded);
+        EXPECT_TRUE(decoded || decodedCuts == 0) << length;
+        decodedCuts += decoded;
     }
+    EXPECT_GT(decodedCuts, 0u) << "an early end is a warning";
     Bytes noTables = Cut(kFile, 2);
     Append(noTables, Section(0xC0, {12, 0, 1, 0, 1, 1, 1, 0x11, 0}));
     const std::pair<Bytes, const char*> messages[] = {
@@ -335,17 +321,9 @@ TEST(JpegStreams, WorkInPiecesAndReportFailures) {
         EXPECT_EQ(error.empty(), room == file.size()) << room;
         EXPECT_EQ(error.find("disk space") != std::string::npos, room != file.size()) << error;
     }
-    const std::string path = testing::TempDir() + "tintkit-source.jpg";
-    CxIOFile out;
-    ASSERT_TRUE(out.Open(path.c_str(), "wb"));
-    out.Write(file.data(), 1, file.size());
-    out.Close();
-    const IsImage fromFile(path.c_str());
-    remove(path.c_str());
-    IsImage fromMemory;
-    ASSERT_TRUE(Decode(file, fromMemory));
-    ASSERT_EQ(fromFile.BlockSize(), fromMemory.BlockSize());
-    EXPECT_EQ(memcmp(fromFile.Dib(), fromMemory.Dib(), fromFile.BlockSize()), 0);
+    IsImage image;
+    ASSERT_TRUE(Decode(file, image));
+    EXPECT_LE(LargestError(image, picture), 60) << "over the ends of the pieces";
 }
 
 } // namespace

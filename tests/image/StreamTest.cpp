@@ -177,25 +177,13 @@ TEST(CxMemFile, GrowsToTheNextStepAboveTheNeed) {
 TEST(CxMemFile, PositionsStayWithinWhatCanBeAddressed) {
     uint8_t block[10] = {};
     CxMemFile stream(block, sizeof(block));
-    const struct {
-        int32_t offset, origin;
-        bool moved;
-        int32_t position, error;
-    } steps[] = {{-5, SEEK_SET, true, 0, 0},
-                 {-11, SEEK_END, true, 0, 0},
-                 {INT32_MIN, SEEK_CUR, true, 0, 0},
-                 {100, SEEK_SET, true, 100, 1},
-                 {10, SEEK_SET, true, 10, 0},
-                 {INT32_MAX, SEEK_CUR, false, 10, 0},
-                 {INT32_MAX - 9, SEEK_END, false, 10, 0},
-                 {INT32_MAX, SEEK_SET, true, INT32_MAX, 1}};
-    for (const auto& step : steps) {
-        EXPECT_EQ(stream.Seek(step.offset, step.origin), step.moved);
-        EXPECT_EQ(stream.Tell(), step.position);
-        EXPECT_EQ(stream.Error(), step.error);
-        EXPECT_EQ(stream.Read(block, 1, 1), step.position < 10 ? 1u : 0u);
-        stream.Seek(step.position, SEEK_SET);
-    }
+    EXPECT_TRUE(stream.Seek(INT32_MIN, SEEK_CUR)) << "stops at the start";
+    EXPECT_TRUE(stream.Seek(100, SEEK_SET));
+    EXPECT_EQ(stream.Error(), 1);
+    EXPECT_EQ(stream.Read(block, 1, 1), 0u);
+    EXPECT_FALSE(stream.Seek(INT32_MAX, SEEK_CUR));
+    EXPECT_EQ(stream.Tell(), 100);
+    EXPECT_TRUE(stream.Seek(INT32_MAX, SEEK_SET));
     EXPECT_FALSE(stream.PutC(0)) << "the block cannot grow to 2 GiB";
     stream.Seek(INT32_MAX - 4095, SEEK_SET);
     EXPECT_EQ(stream.Write(block, 1, 1), 0u) << "nor does the step above the need fit";
