@@ -49,7 +49,7 @@ inline Bitmap Make(uint16_t bits, int32_t width, int32_t height, const Bytes& pi
     return bitmap;
 }
 
-/// A bitmap of two palette entries, or none, under another header.
+/// The same bitmap under another header; a core header has all colours its depth can address.
 inline Bitmap WithHeader(Bitmap bitmap, uint32_t headerSize) {
     bitmap.headerSize = headerSize;
     bitmap.imageSize = static_cast<uint32_t>(bitmap.pixels.size());
