@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "image/CxFile.h"
 #include "image/DecodeLimits.h"
 #include "image/IsImage.h"
 
@@ -43,6 +44,14 @@ inline void ReadWhole(const IsImage& image) {
             sum += image.GetPixelColor(x, y).rgbRed;
     }
     sink = sum;
+}
+
+/// Decodes `stream` again through the dispatcher, which has to agree with the codec itself.
+inline void DecodeAgain(IsImage& image, uint32_t type, CxFile& stream, bool decoded) {
+    stream.Seek(0, 0);
+    Require(image.DecodeByType(type, &stream) == decoded);
+    Require(image.IsEmpty() != decoded);
+    Require((*image.LastErrorText() == '\0') == decoded);
 }
 
 } // namespace fuzz

@@ -77,7 +77,7 @@ std::vector<Seed> JpegSeeds() {
                              {0xFF, 0xD8, 0xFF, 0xDA, 0, 2, 1, 2},
                              {Section(0xE1, block), comment, Section(0xC0, {8, 0, 1, 0, 1, 3})})});
         Bytes bare = {0xFF, 0xD8};
-        bare.insert(bare.end(), block.begin(), block.end());
+        imagetest::Append(bare, block);
         seeds.push_back({"exif", order + "block", bare});
     }
     return seeds;

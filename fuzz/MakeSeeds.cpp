@@ -15,50 +15,24 @@ using namespace bmptest;
 
 namespace {
 
-struct NamedBitmap {
+const struct {
     const char* name;
     Bitmap bitmap;
-};
-
-Bitmap Make(uint16_t bits, int32_t width, int32_t height, uint32_t compression, const Bytes& pixels,
-            const Bytes& masks = {}) {
-    Bitmap bitmap;
-    bitmap.bitCount = bits;
-    bitmap.width = width;
-    bitmap.height = height;
-    bitmap.compression = compression;
-    bitmap.pixels = pixels;
-    bitmap.masks = masks;
-    if (bits <= 8) {
-        bitmap.colorsUsed = 2;
-        bitmap.palette = PaletteOf({0x000000, 0xFF8040});
-    }
-    return bitmap;
-}
-
-Bitmap WithHeader(Bitmap bitmap, uint32_t headerSize) {
-    bitmap.headerSize = headerSize;
-    bitmap.imageSize = static_cast<uint32_t>(bitmap.pixels.size());
-    if (headerSize == 12)
-        bitmap.palette.resize((size_t{1} << bitmap.bitCount) % 257 * 3);
-    return bitmap;
-}
-
-const NamedBitmap kBitmaps[] = {
-    {"depth1", Make(1, 9, 2, 0, {0x80, 0x80, 0, 0, 0x55, 0, 0, 0})},
-    {"depth1core", WithHeader(Make(1, 3, 1, 0, {0xA0, 0, 0, 0}), 12)},
-    {"depth4", Make(4, 3, 2, 0, {0x01, 0x10, 0, 0, 0x10, 0, 0, 0})},
-    {"depth8", Make(8, 2, 2, 0, {0, 1, 0, 0, 1, 0, 0, 0})},
-    {"depth8topdown", Make(8, 2, -2, 0, {0, 1, 0, 0, 1, 0, 0, 0})},
-    {"depth16", Make(16, 2, 1, 0, {0x1F, 0, 0, 0x7C})},
-    {"depth16fields", Make(16, 1, 1, 3, {0xFF, 0xFF, 0, 0}, MasksOf(0xF800, 0x7E0, 0x1F))},
-    {"depth24", Make(24, 1, 2, 0, {1, 2, 3, 0, 4, 5, 6, 0})},
-    {"depth24os2", WithHeader(Make(24, 1, 1, 0, {1, 2, 3, 0}), 64)},
-    {"depth24v4", WithHeader(Make(24, 1, 1, 0, {1, 2, 3, 0}), 108)},
-    {"depth32", Make(32, 1, -2, 0, {1, 2, 3, 4, 5, 6, 7, 8})},
-    {"depth32fields", Make(32, 1, 1, 3, {1, 2, 3, 4}, MasksOf(0xFF, 0xFF00, 0xFF0000))},
-    {"rle8", Make(8, 6, 3, 1, {3, 1, 0, 3, 1, 0, 1, 0, 0, 0, 0, 2, 1, 1, 9, 1, 0, 1})},
-    {"rle4", Make(4, 9, 3, 2, {3, 0x10, 0, 5, 0x10, 0x11, 0x10, 0, 0, 0, 0, 2, 1, 1, 9, 0x11})},
+} kBitmaps[] = {
+    {"depth1", Make(1, 9, 2, {0x80, 0x80, 0, 0, 0x55, 0, 0, 0})},
+    {"depth1core", WithHeader(Make(1, 3, 1, {0xA0, 0, 0, 0}), 12)},
+    {"depth4", Make(4, 3, 2, {0x01, 0x10, 0, 0, 0x10, 0, 0, 0})},
+    {"depth8", Make(8, 2, 2, {0, 1, 0, 0, 1, 0, 0, 0})},
+    {"depth8topdown", Make(8, 2, -2, {0, 1, 0, 0, 1, 0, 0, 0})},
+    {"depth16", Make(16, 2, 1, {0x1F, 0, 0, 0x7C})},
+    {"depth16fields", Make(16, 1, 1, {0xFF, 0xFF, 0, 0}, 3, {0xF800, 0x7E0, 0x1F})},
+    {"depth24", Make(24, 1, 2, {1, 2, 3, 0, 4, 5, 6, 0})},
+    {"depth24os2", WithHeader(Make(24, 1, 1, {1, 2, 3, 0}), 64)},
+    {"depth24v4", WithHeader(Make(24, 1, 1, {1, 2, 3, 0}), 108)},
+    {"depth32", Make(32, 1, -2, {1, 2, 3, 4, 5, 6, 7, 8})},
+    {"depth32fields", Make(32, 1, 1, {1, 2, 3, 4}, 3, {0xFF, 0xFF00, 0xFF0000})},
+    {"rle8", Make(8, 6, 3, {3, 1, 0, 3, 1, 0, 1, 0, 0, 0, 0, 2, 1, 1, 9, 1, 0, 1}, 1)},
+    {"rle4", Make(4, 9, 3, {3, 0x10, 0, 5, 0x10, 0x11, 0x10, 0, 0, 0, 0, 2, 1, 1, 9, 0x11}, 2)},
 };
 
 pngtest::Png MakePng(pngtest::ColorType type, uint8_t bits, bool interlaced,
@@ -128,7 +102,7 @@ int main(int argc, char** argv) {
     }
     const std::filesystem::path folder = argv[1];
     bool written = true;
-    for (const NamedBitmap& seed : kBitmaps) {
+    for (const auto& seed : kBitmaps) {
         const std::string name = seed.name;
         written = Write(folder / "bmp", name + ".bmp", BmpFile(seed.bitmap)) && written;
         written = Write(folder / "packed_dib", name + ".dib", PackedDib(seed.bitmap)) && written;

@@ -40,9 +40,6 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     fuzz::ReadWhole(direct); // after a failure too: the image may be partly filled
 
     IsImage image;
-    stream.Seek(0, 0);
-    fuzz::Require(image.DecodeByType(tint::kFormatPng, &stream) == decoded);
-    fuzz::Require(image.IsEmpty() != decoded);
-    fuzz::Require((*image.LastErrorText() == '\0') == decoded);
+    fuzz::DecodeAgain(image, tint::kFormatPng, stream, decoded);
     return 0;
 }

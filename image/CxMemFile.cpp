@@ -153,7 +153,8 @@ bool CxMemFile::PutC(uint8_t byte) {
 }
 
 int32_t CxMemFile::GetC() {
-    if (Eof())
+    // A derived class may see the end elsewhere; the block's own end holds all the same.
+    if (Eof() || CxMemFile::Eof())
         return -1;
     return buffer[position++];
 }

@@ -38,7 +38,8 @@ public:
     bool Close() override;
     /// A last, partial element is copied and consumed but not counted.
     size_t Read(void* buffer, size_t elementSize, size_t count) override;
-    /// Writes all elements or none: none when memory is out or the end would pass 2 GiB - 1.
+    /// Writes all elements or none: none when memory is out or the block would have to hold more
+    /// than 2 GiB - 4097 bytes, which its last step of capacity does.
     size_t Write(const void* buffer, size_t elementSize, size_t count) override;
     /// A position before the start becomes 0.  One beyond the end is allowed: a write there grows
     /// the block and fills the gap with zeros.

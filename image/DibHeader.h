@@ -15,6 +15,7 @@ namespace tint {
 
 inline constexpr uint32_t kCoreHeaderBytes = 12; ///< the OS/2 header: 16-bit sides, no compression
 inline constexpr uint32_t kInfoHeaderBytes = sizeof(BITMAPINFOHEADER);
+inline constexpr uint32_t kMaskBytes = 12; ///< the red, green and blue mask of bit fields
 
 /// The fields of the 40 bytes at `bytes`.
 BITMAPINFOHEADER ParseInfoHeader(const uint8_t* bytes);

@@ -31,7 +31,8 @@ bool DescribesPlainRows(const BITMAPINFOHEADER& header) {
 /// Fills in what a header may leave at 0.
 void CompleteHeader(BITMAPINFOHEADER& header) {
     if (header.biSizeImage == 0) {
-        // Wraps for sides that CreateImage refuses afterwards.
+        // For the caller of ReadDibInfoHeader.  The product of large sides, and that of top-down
+        // rows, wraps; rows are read by the size of the image that was made, whatever stands here.
         header.biSizeImage = static_cast<uint32_t>(
             DibRowBytes(static_cast<uint32_t>(header.biWidth), header.biBitCount) *
             static_cast<uint32_t>(header.biHeight));
@@ -41,7 +42,7 @@ void CompleteHeader(BITMAPINFOHEADER& header) {
 
 /// Reads the masks of a 16-bit file, of which the low 16 bits count.
 FieldConverter16 ReadMasks(CxFile& stream) {
-    uint8_t masks[12] = {};
+    uint8_t masks[kMaskBytes] = {};
     stream.Read(masks, 1, sizeof(masks));
     return {ReadLe16(masks), ReadLe16(masks + 4), ReadLe16(masks + 8)};
 }
@@ -55,10 +56,14 @@ struct CxImageBMP::Source {
     uint32_t pixelOffset; ///< from startPosition; 0: the pixels follow header and palette
     BITMAPINFOHEADER header;
 
-    /// False for an offset the stream cannot reach.
+    /// Moves on from the palette, or from the masks.  False for an offset the stream cannot reach.
     bool SeekToPixels() const {
-        if (pixelOffset == 0)
+        if (pixelOffset == 0) {
+            // Above 8 bits a palette is a hint for devices that need one: passed over.
+            if (header.biBitCount > 8)
+                SkipBytes(stream, uint64_t{header.biClrUsed} * sizeof(RGBQUAD));
             return true;
+        }
         const int64_t position = static_cast<int64_t>(startPosition) + pixelOffset;
         return position <= INT32_MAX && stream.Seek(static_cast<int32_t>(position), 0);
     }
@@ -70,6 +75,8 @@ bool CxImageBMP::DecodeBmp(CxFile* stream) {
     if (!stream)
         return false;
     Source source = {*stream, stream->Tell(), 0, {}};
+    if (source.startPosition < 0)
+        return false; // nothing could be found by its offset
     uint8_t fileHeader[kFileHeaderBytes];
     if (stream->Read(fileHeader, 1, sizeof(fileHeader)) != sizeof(fileHeader))
         return false;
@@ -110,8 +117,8 @@ bool CxImageBMP::ReadDibInfoHeader(CxFile* stream, BITMAPINFOHEADER& header) {
 /// Makes the image and reads its palette.
 bool CxImageBMP::CreateFromHeader(const Source& source) {
     const BITMAPINFOHEADER& file = source.header;
-    if (!CreateImage(static_cast<uint32_t>(file.biWidth), RowCount(file), file.biBitCount,
-                     kFormatBmp))
+    if (!BeginPicture(static_cast<uint32_t>(file.biWidth), RowCount(file), file.biBitCount,
+                      kFormatBmp))
         return false;
     // Not through SetHorizontalDpi: a file without a resolution deliberately has 0 dpi.
     header.biXPelsPerMeter = file.biXPelsPerMeter;
@@ -160,7 +167,11 @@ bool CxImageBMP::ReadPixels(const Source& source) {
         rows.Read(stream);
         return true;
     case 32:
-        if ((compression != BI_RGB && compression != BI_BITFIELDS) || !source.SeekToPixels())
+        if (compression == BI_BITFIELDS)
+            SkipBytes(stream, kMaskBytes); // ignored, but they stand before the pixels
+        else if (compression != BI_RGB)
+            return false;
+        if (!source.SeekToPixels())
             return false;
         rows.ReadConverted<4>(stream, DropFourthByte);
         return true;

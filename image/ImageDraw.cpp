@@ -11,9 +11,9 @@ const BITMAPINFO* BitmapInfo(const uint8_t* dib) {
     return reinterpret_cast<const BITMAPINFO*>(dib);
 }
 
-/// start + length, at most the largest coordinate there is.
-LONG EndOf(int32_t start, int32_t length) {
-    return static_cast<LONG>(std::min<int64_t>(int64_t{start} + length, INT32_MAX));
+/// The sum or difference of two coordinates, at most the largest there is, at least the smallest.
+int32_t Saturated(int64_t value) {
+    return static_cast<int32_t>(std::clamp<int64_t>(value, INT32_MIN, INT32_MAX));
 }
 
 /// A device context in memory with a bitmap of its own selected.
@@ -55,9 +55,12 @@ void PaintMasked(const Placement& to, const MemoryDC& colors, const MemoryDC& ma
     // A monochrome source takes these colours of the target for its black and white.
     const COLORREF textColor = SetTextColor(to.dc, RGB(0, 0, 0));
     SetBkColor(to.dc, RGB(255, 255, 255));
+    // The default mode would mix colours with the mask's.
+    const int stretchMode = SetStretchBltMode(to.dc, COLORONCOLOR);
     to.Stretch(colors, SRCINVERT);
     to.Stretch(mask, SRCAND);
     to.Stretch(colors, SRCINVERT);
+    SetStretchBltMode(to.dc, stretchMode);
     SetTextColor(to.dc, textColor);
 }
 
@@ -70,22 +73,23 @@ bool IsImage::DrawImage(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy) co
         cx = header.biWidth;
     if (cy < 0)
         cy = header.biHeight;
-    // Of a picture with transparency too: the default mode would mix colours with the mask's.
-    SetStretchBltMode(dc, COLORONCOLOR);
-    if (info.transparentIndex != -1)
+    if (info.transparentIndex != -1) {
         DrawTransparent(dc, x, y, cx, cy);
-    else
+    } else {
+        SetStretchBltMode(dc, COLORONCOLOR); // deliberately left so
         StretchImage(dc, x, y, cx, cy, SRCCOPY);
+    }
     return true;
 }
 
 bool IsImage::DrawImageInRect(HDC dc, const RECT& rect) const {
-    return DrawImage(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
+    return DrawImage(dc, rect.left, rect.top, Saturated(int64_t{rect.right} - rect.left),
+                     Saturated(int64_t{rect.bottom} - rect.top));
 }
 
 /// Paints all pixels but those of the transparent colour.
 void IsImage::DrawTransparent(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy) const {
-    const RECT area = {x, y, EndOf(x, cx), EndOf(y, cy)};
+    const RECT area = {x, y, Saturated(int64_t{x} + cx), Saturated(int64_t{y} + cy)};
     if (!RectVisible(dc, &area))
         return;
     const int width = header.biWidth;

@@ -108,8 +108,8 @@ void CxImageJPG::ApplySettings(jpeg_decompress_struct& library) const {
 
 /// Makes the image once its size is known, before the library takes memory for the picture.
 bool CxImageJPG::CreateFor(jpeg_decompress_struct& library, bool hasExif) {
-    if (!CreateImage(library.output_width, library.output_height,
-                     8 * static_cast<uint32_t>(library.output_components), kFormatJpeg))
+    if (!BeginPicture(library.output_width, library.output_height,
+                      8 * static_cast<uint32_t>(library.output_components), kFormatJpeg))
         return false;
     const float unit = hasExif ? exifInfo.resolutionUnit : 0;
     SetHorizontalDpi(DpiOf(exifInfo.xResolution, unit, library.X_density, library.density_unit));

@@ -169,14 +169,11 @@ bool CxImagePNG::DecodePng(CxFile* stream) {
 bool CxImagePNG::ReadPicture(Reader& reader, CxFile& stream) {
     reader.SetLimits();
     reader.ReadHeader();
-    if (!CreateImage(png_get_image_width(reader.png, reader.info),
-                     png_get_image_height(reader.png, reader.info),
-                     static_cast<uint32_t>(reader.pixelDepth), kFormatPng))
+    if (!BeginPicture(png_get_image_width(reader.png, reader.info),
+                      png_get_image_height(reader.png, reader.info),
+                      static_cast<uint32_t>(reader.pixelDepth), kFormatPng))
         return false;
     reader.CheckRowBytes(stream);
-    // A picture decoded before may have left these.
-    info.transparentIndex = -1;
-    info.backgroundColor = {};
     ReadResolution(reader);
     ReadBackground(reader);
     if (reader.colorType == PNG_COLOR_TYPE_PALETTE)

@@ -77,6 +77,14 @@ uint8_t* IsImage::CreateImage(uint32_t width, uint32_t height, uint32_t bitCount
     return dib;
 }
 
+bool IsImage::BeginPicture(uint32_t width, uint32_t height, uint32_t bitCount, uint32_t type) {
+    if (!CreateImage(width, height, bitCount, type))
+        return false;
+    info.transparentIndex = -1;
+    info.backgroundColor = {};
+    return true;
+}
+
 bool IsImage::DestroyImage() {
     if (info.ghostOf)
         return false;

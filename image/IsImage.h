@@ -74,8 +74,8 @@ public:
     bool LoadFromStdioFile(FILE* file, uint32_t type);
     /// Decodes a picture of a known format.
     ///
-    /// On success it replaces the content; on failure the image stays as it was but for
-    /// LastErrorText.
+    /// On success it replaces the content, with its resolution, transparent index and background
+    /// colour; on failure the image stays as it was but for LastErrorText.
     /// @param type  format code; there is no detection
     bool DecodeByType(uint32_t type, CxFile* stream);
     /// Replaces the content by a packed DIB: information header, colour masks, palette and pixels in
@@ -153,15 +153,16 @@ public:
 
     /// Draws the whole picture, scaled, into a rectangle of a device context, in its logical units.
     ///
-    /// Leaves the stretch mode of `dc` at COLORONCOLOR.  With a transparent index the pixels of that
-    /// palette entry, or of the background colour in a 24-bit image, are left out, nothing is done
-    /// when the rectangle is not visible, and the background colour of `dc` is white afterwards.
+    /// A picture without a transparent index leaves the stretch mode of `dc` at COLORONCOLOR.  Of
+    /// one with it the pixels of that palette entry, or of the background colour in a 24-bit image,
+    /// are left out; the stretch mode stays and the background colour of `dc` is white afterwards,
+    /// but nothing at all is done to `dc` when the rectangle is not visible.
     /// @param cx  negative for the picture's own width
     /// @param cy  negative for the picture's own height
     /// @return false, with nothing drawn, for an empty or disabled image, a null `dc`, and when `cx`
     ///         or `cy` is 0
     bool DrawImage(HDC dc, int32_t x, int32_t y, int32_t cx, int32_t cy) const;
-    /// DrawImage into `rect`.
+    /// DrawImage into `rect`; sides longer than 31 bits can say are cut to that.
     bool DrawImageInRect(HDC dc, const RECT& rect) const;
     /// Draws the whole picture, scaled, with a raster operation and regardless of transparency.
     /// @return false for an empty image and a null `dc`
@@ -272,6 +273,9 @@ protected:
     void SetErrorText(const char* text);
     /// Writes `header` to the start of the block, after a change.
     void StoreHeader();
+    /// CreateImage for a decoder: forgets the transparent index and the background colour too, which
+    /// a picture before may have left.  Its resolution is for the decoder to set.
+    bool BeginPicture(uint32_t width, uint32_t height, uint32_t bitCount, uint32_t type);
 
     uint8_t* dib;            ///< the block, null while empty
     BITMAPINFOHEADER header; ///< copy of the block's header

@@ -16,8 +16,6 @@ using namespace tint;
 
 namespace {
 
-constexpr size_t kMaskBytes = 12;
-
 struct ColorMasks {
     uint32_t red, green, blue;
 };
@@ -124,7 +122,8 @@ bool IsImage::ReadPackedDib(const uint8_t* data, size_t size) {
         SetErrorText(refusal);
         return false;
     }
-    if (!CreateImage(static_cast<uint32_t>(source.biWidth), RowCount(source), source.biBitCount))
+    if (!BeginPicture(static_cast<uint32_t>(source.biWidth), RowCount(source), source.biBitCount,
+                      kFormatUnknown))
         return false;
     // Where the header states no resolution both setters choose their default.
     SetHorizontalDpi(static_cast<int32_t>(DpiFromPixelsPerMeter(source.biXPelsPerMeter)));

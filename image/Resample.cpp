@@ -15,12 +15,12 @@ using namespace tint;
 
 namespace {
 
-constexpr uint32_t kStripColumns = 128;       // of the target: its rows of floats stay in cache
-constexpr uint32_t kStripPixels = 4096;       // of the source, where it shrinks
-constexpr uint32_t kBandRows = 65536;         // whose weights are kept
-constexpr uint32_t kRowsAtOnce = 16;          // source rows summed in one go
-constexpr uint32_t kOutputsAtOnce = 4;        // target rows from the same source rows
-constexpr uint64_t kBytesPerSourcePixel = 24; // of a strip: bytes, spaced floats, weights
+constexpr uint32_t kStripColumns = 128;      // of the target: its rows of floats stay in cache
+constexpr uint32_t kStripPixels = 4096;      // of the source, where it shrinks
+constexpr uint32_t kBandRows = 65536;        // whose weights are kept
+constexpr uint32_t kRowsAtOnce = 16;         // source rows summed in one go
+constexpr uint32_t kOutputsAtOnce = 4;       // target rows from the same source rows
+constexpr uint64_t kFloatBytesPerPixel = 20; // of a source strip: spaced floats, weights
 
 /// A resampling in progress: vertical strips, one after another, each from the first row to the
 /// last, so that what a row needs of the rows around it is still in the processor's cache.
@@ -28,7 +28,8 @@ class Resampler {
 public:
     Resampler(const IsImage& source, IsImage& target, const ResampleMethod& method,
               const ResampleOps& ops)
-        : m_ops(ops), m_source(source, method.overflow), m_target(target) {
+        : m_ops(ops), m_source(source, method.overflow), m_target(target),
+          m_indexed(source.BitCount() != 24) {
         m_columns = {source.Width(), target.Width(), nullptr};
         m_rows = {source.Height(), target.Height(), nullptr};
         const Kernel& kernel = KernelOf(method.interpolation);
@@ -42,12 +43,15 @@ public:
 
     /// Bytes of working memory, about.
     uint64_t WorkingBytes() const {
-        const uint64_t span =
-            static_cast<uint64_t>(StripColumns()) * m_columns.source / m_columns.target +
-            m_columns.MaxTaps();
+        const uint64_t span = (StripColumns() - uint64_t{1}) * m_columns.source / m_columns.target +
+                              1 + m_columns.MaxTaps();
+        // Rows of a picture with a palette become bytes first, as many as are summed at once.
+        const uint32_t rowsAtOnce =
+            m_indexed && m_rows.Shrinks() ? std::min(kRowsAtOnce, m_rows.MaxTaps()) : 1;
+        const uint64_t bytesPerPixel = kFloatBytesPerPixel + 3 * rowsAtOnce;
         const uint64_t rows = std::min(kBandRows, m_rows.target);
         const uint64_t bytesPerRow = m_rows.MaxTaps() * uint64_t{sizeof(float)} + sizeof(int64_t);
-        return span * kBytesPerSourcePixel + rows * bytesPerRow;
+        return span * bytesPerPixel + rows * bytesPerRow;
     }
 
     void Run() {
@@ -56,10 +60,12 @@ public:
         for (uint32_t row = 0; row < height; row += std::min(kBandRows, height - row)) {
             m_band = row;
             m_bandWeights = WeightsOf(m_rows, row, std::min(kBandRows, height - row));
+            m_rowsWithin = m_bandWeights.CountWithin(m_rows.source);
             const uint32_t step = StripColumns();
             for (uint32_t column = 0; column < width; column += std::min(step, width - column)) {
                 m_strip = column;
                 m_stripWeights = WeightsOf(m_columns, column, std::min(step, width - column));
+                m_columnsWithin = m_stripWeights.CountWithin(m_columns.source);
                 RunStrip();
             }
         }
@@ -83,6 +89,15 @@ private:
             RunColumnsFirst();
         else
             RunRowsFirst();
+    }
+
+    /// Stores a row.  Pixels whose whole window lies outside the picture take the colour of there as
+    /// it is, whatever their weights add up to.
+    void CloseRow(uint32_t row, uint8_t* out, uint32_t slot) {
+        size_t column = row < m_rowsWithin ? m_columnsWithin : 0;
+        for (; m_source.IsPlainOutside() && column < Columns(); ++column)
+            m_source.PutOutside(out + column * 3);
+        m_target.Close(m_band + row, m_strip, Columns(), slot);
     }
 
     // Rows first: each source row is filtered along itself once, into a ring of as many rows as a
@@ -129,7 +144,7 @@ private:
         m_ops.blendRows(rows, m_bandWeights.taps, m_bandWeights.Of(row), m_bias,
                         static_cast<size_t>(Columns()) * 3, out, outputs);
         for (uint32_t o = 0; o < outputs; ++o)
-            m_target.Close(m_band + row + o, m_strip, Columns(), o);
+            CloseRow(row + o, out[o], o);
     }
 
     // Columns first: the source rows of a target row are summed, and the sum is filtered along
@@ -142,7 +157,7 @@ private:
                 SumRows(row, done, std::min(kRowsAtOnce, m_bandWeights.taps - done));
             uint8_t* const out = m_target.Open(m_band + row, m_strip, Columns(), 0);
             m_ops.filterToBytes(m_sums.data(), m_stripWeights.Table(), m_bias, out);
-            m_target.Close(m_band + row, m_strip, Columns(), 0);
+            CloseRow(row, out, 0);
         }
     }
 
@@ -159,6 +174,7 @@ private:
     const ResampleOps& m_ops;
     const ResampleSource m_source;
     ResampleTarget m_target;
+    bool m_indexed;
     ResampleAxis m_columns;
     ResampleAxis m_rows;
     float m_bias; ///< added before the sums are cut to whole numbers
@@ -167,6 +183,8 @@ private:
     uint32_t m_strip = 0; ///< first target column of the strip
     AxisWeights m_bandWeights;
     AxisWeights m_stripWeights;
+    size_t m_rowsWithin = 0; ///< of the band: the first ones, not wholly outside
+    size_t m_columnsWithin = 0;
 
     std::vector<uint8_t> m_bytes[kRowsAtOnce];
     std::vector<float> m_spaced; ///< one source row
@@ -196,8 +214,13 @@ bool IsImage::Resample(int32_t newWidth, int32_t newHeight, int32_t interpolatio
         SetErrorText(refusal);
         return false;
     }
-    if (newWidth == header.biWidth && newHeight == header.biHeight)
-        return !target || target->Copy(*this);
+    SetErrorText(nullptr);
+    if (newWidth == header.biWidth && newHeight == header.biHeight) {
+        if (!target || target->Copy(*this))
+            return true;
+        SetErrorText(target->LastErrorText());
+        return false;
+    }
 
     IsImage resized;
     resized.CopyInfo(*this);

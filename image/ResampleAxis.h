@@ -4,6 +4,7 @@
 #include "image/ResampleKernels.h"
 #include "image/ResampleOps.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -32,6 +33,12 @@ struct AxisWeights {
     int64_t First() const { return starts.front(); }
     /// Source positions from First to the last one asked for.
     uint32_t Span() const { return static_cast<uint32_t>(starts.back() - starts.front()) + taps; }
+    /// Positions that ask for a pixel below `size`; those that ask only for pixels beyond come last.
+    /// The single-precision scale of a side of more than 2^24 pixels can carry points so far.
+    size_t CountWithin(int64_t size) const {
+        return static_cast<size_t>(std::lower_bound(starts.begin(), starts.end(), size) -
+                                   starts.begin());
+    }
     FilterTable Table() const { return {starts.data(), weights.data(), taps, starts.size()}; }
 };
 

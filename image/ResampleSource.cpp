@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "image/ResampleSource.h"
 
-#include "image/Resample.h"
-
 #include <algorithm>
 #include <cstring>
 
@@ -36,16 +34,15 @@ ResampleSource::ResampleSource(const IsImage& image, int32_t overflow)
 int64_t ResampleSource::Inside(int64_t at, int64_t size) const {
     if (at >= 0 && at < size)
         return at;
-    switch (m_overflow) {
-    case kOverflowWhite:
-    case kOverflowBackground:
-    case kOverflowTransparent:
+    if (IsPlainOutside())
         return -1;
-    case kOverflowWrap:
+    if (m_overflow == kOverflowWrap)
         return (at % size + size) % size;
-    default:
-        return at < 0 ? 0 : size - 1;
-    }
+    return at < 0 ? 0 : size - 1;
+}
+
+void ResampleSource::PutOutside(uint8_t* out) const {
+    PutColor(out, m_outside);
 }
 
 void ResampleSource::CopyInside(uint32_t y, uint32_t first, uint32_t count, uint8_t* out) const {

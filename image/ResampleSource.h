@@ -2,6 +2,7 @@
 #pragma once
 
 #include "image/IsImage.h"
+#include "image/Resample.h"
 
 #include <cstdint>
 #include <vector>
@@ -18,6 +19,13 @@ public:
     /// @param scratch  may receive them; the result stays valid as long as it is left alone
     const uint8_t* Row(int64_t y, int64_t first, uint32_t count,
                        std::vector<uint8_t>& scratch) const;
+
+    /// Whether what lies beyond the edges is one colour.
+    bool IsPlainOutside() const {
+        return m_overflow >= kOverflowWhite && m_overflow <= kOverflowTransparent;
+    }
+    /// Writes that colour.
+    void PutOutside(uint8_t* out) const;
 
 private:
     /// The position inside that stands for `at`, -1 for none.

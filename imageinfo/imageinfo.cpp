@@ -58,15 +58,28 @@ bool ParseOptions(int argc, char** argv, Options& options) {
     return !options.files.empty() && (options.ppm.empty() || options.files.size() == 1);
 }
 
-/// Reads a file whole; empty when it cannot be read.
-std::vector<uint8_t> ReadWhole(const std::string& path) {
-    std::vector<uint8_t> data;
+/// Whether a file is larger than a memory stream can address; false where its size is not known.
+bool IsTooLarge(FILE* file) {
+    if (fseek(file, 0, SEEK_END) != 0)
+        return false; // a pipe: its size shows while it is read
+    const long size = ftell(file);
+    rewind(file);
+    return size < 0 || size > INT32_MAX; // negative where 32 bits do not hold it
+}
+
+/// Reads a file whole; empty when it cannot be read.  @return false when it is too large for that
+bool ReadWhole(const std::string& path, std::vector<uint8_t>& data) {
     const FilePointer file(fopen(path.c_str(), "rb"));
+    if (file && IsTooLarge(file.get()))
+        return false;
     uint8_t piece[65536];
     size_t got = 0;
-    while (file && (got = fread(piece, 1, sizeof(piece), file.get())) > 0)
+    while (file && (got = fread(piece, 1, sizeof(piece), file.get())) > 0) {
+        if (data.size() + got > INT32_MAX)
+            return false;
         data.insert(data.end(), piece, piece + got);
-    return data;
+    }
+    return true;
 }
 
 /// The format by which a file is read, decodable or not.
@@ -78,16 +91,17 @@ tint::ImageFormat FormatOf(const std::string& path) {
     return tint::DetectFileFormat(head, path.c_str());
 }
 
+/// @param error  "" for a picture that was decoded
 void PrintInfo(const std::string& path, tint::ImageFormat format, const IsImage& image,
-               const std::string& exif) {
-    const bool ok = *image.LastErrorText() == '\0';
+               const char* error, const std::string& exif) {
+    const bool ok = *error == '\0';
     // A placeholder is nothing of the file's.
     const IsImage nothing;
     const IsImage& shown = ok ? image : nothing;
     const tint::ImageInfo& info = shown.Info();
     printf("{\"file\": %s, \"ok\": %s, \"error\": %s, \"format\": \"%s\", ",
-           JsonString(path).c_str(), ok ? "true" : "false",
-           JsonString(image.LastErrorText()).c_str(), tint::FormatName(format));
+           JsonString(path).c_str(), ok ? "true" : "false", JsonString(error).c_str(),
+           tint::FormatName(format));
     printf("\"width\": %u, \"height\": %u, \"bitCount\": %u, \"paletteEntries\": %u, ",
            static_cast<unsigned>(shown.Width()), static_cast<unsigned>(shown.Height()),
            static_cast<unsigned>(shown.BitCount()), static_cast<unsigned>(shown.PaletteEntries()));
@@ -139,13 +153,15 @@ bool WritePpm(const std::string& path, const IsImage& image) {
 /// that was asked
 bool Report(const std::string& path, const Options& options) {
     std::vector<uint8_t> data;
-    if (options.memory)
-        data = ReadWhole(path);
+    if (options.memory && !ReadWhole(path, data)) {
+        PrintInfo(path, tint::kFormatUnknown, IsImage(), "file is too large for memory", "");
+        return false;
+    }
     IsImage image = options.memory ? IsImage(data.data(), static_cast<uint32_t>(data.size()))
                                    : IsImage(path.c_str());
     const tint::ImageFormat format =
         options.memory ? tint::DetectFormat(data.data(), data.size()) : FormatOf(path);
-    PrintInfo(path, format, image,
+    PrintInfo(path, format, image, image.LastErrorText(),
               format == tint::kFormatJpeg ? ExifOf(path, data, options.memory) : std::string());
     if (*image.LastErrorText())
         return false;

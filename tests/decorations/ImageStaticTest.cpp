@@ -85,7 +85,7 @@ std::vector<uint8_t> TwoColors(int width, int height, bool fine = false) {
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const bool red = fine ? (x + y) % 2 == 0 : x < width / 2;
-            bmptest::AppendLe(bitmap.pixels, red ? 0xFF0000 : 0x0000FF, 3);
+            bmptest::Append(bitmap.pixels, bmptest::Number(red ? 0xFF0000 : 0x0000FF, 3));
         }
         bitmap.pixels.resize((bitmap.pixels.size() + 3) / 4 * 4);
     }

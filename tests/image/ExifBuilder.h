@@ -1,32 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include "tests/image/Bytes.h"
+
 #include <string>
-#include <utility>
-#include <vector>
 
 /// @file
 /// EXIF blocks built entry by entry, in either byte order, sound or not.
 
 namespace exiftest {
 
-using Bytes = std::vector<uint8_t>;
+using imagetest::Append;
+using imagetest::Bytes;
 
+// clang-format off
 enum Format : uint16_t {
-    kByte = 1,
-    kAscii,
-    kShort,
-    kLong,
-    kRational,
-    kSignedByte,
-    kUndefined,
-    kSignedShort,
-    kSignedLong,
-    kSignedRational,
-    kFloat,
-    kDouble,
+    kByte = 1, kAscii, kShort, kLong, kRational, kSignedByte, kUndefined, kSignedShort, kSignedLong,
+    kSignedRational, kFloat, kDouble
 };
+// clang-format on
 
 /// A directory entry; a value of more than 4 bytes is put behind the directory.
 struct Entry {
@@ -41,10 +33,7 @@ public:
     explicit ExifBuilder(bool motorola) : m_motorola(motorola) {}
 
     Bytes Number(uint64_t value, int bytes) const {
-        Bytes out;
-        for (int i = 0; i < bytes; ++i)
-            out.push_back(static_cast<uint8_t>(value >> 8 * (m_motorola ? bytes - 1 - i : i)));
-        return out;
+        return imagetest::Number(value, bytes, m_motorola);
     }
     Entry Short(uint16_t tag, uint16_t value) const { return {tag, kShort, 1, Number(value, 2)}; }
     Entry Long(uint16_t tag, uint32_t value) const { return {tag, kLong, 1, Number(value, 4)}; }
@@ -57,11 +46,6 @@ public:
         Append(value, Number(static_cast<uint32_t>(denominator), 4));
         return {tag, format, 1, value};
     }
-    /// An entry whose value field is `offset` whatever its size.
-    static Entry Raw(uint16_t tag, uint16_t format, uint32_t count, const Bytes& field) {
-        return {tag, format, count, field};
-    }
-
     /// The bytes of a directory that stands at `offset`, with its values behind it.
     Bytes Directory(uint32_t offset, const std::vector<Entry>& entries, uint32_t next = 0) const {
         Bytes out = Number(entries.size(), 2);
@@ -98,12 +82,6 @@ public:
     /// A block of one directory.
     Bytes Block(const std::vector<Entry>& entries, uint32_t next = 0) const {
         return Block(std::vector<Bytes>{Directory(8, entries, next)});
-    }
-
-    static void Append(Bytes& out, const Bytes& more) {
-        // Not by insert, in which GCC sees an overrun behind a few known bytes.
-        for (const uint8_t byte : more)
-            out.push_back(byte);
     }
 
 private:

@@ -21,10 +21,7 @@ public:
         void* bits = nullptr;
         m_bitmap = CreateDIBSection(nullptr, &bitmap, DIB_RGB_COLORS, &bits, nullptr, 0);
         m_previous = SelectObject(m_dc, m_bitmap);
-        const HBRUSH brush = CreateSolidBrush(kUntouched);
-        const RECT all = {0, 0, width, height};
-        FillRect(m_dc, &all, brush);
-        DeleteObject(brush);
+        Clear();
     }
     ~Surface() {
         SelectObject(m_dc, m_previous);
@@ -35,6 +32,13 @@ public:
     Surface& operator=(const Surface&) = delete;
 
     operator HDC() const { return m_dc; }
+
+    void Clear() const {
+        const HBRUSH brush = CreateSolidBrush(kUntouched);
+        const RECT all = {0, 0, m_width, m_height};
+        FillRect(m_dc, &all, brush);
+        DeleteObject(brush);
+    }
 
     /// One letter a pixel, rows separated by "/": the letter of the colour, "." where untouched.
     std::string Letters() const {
@@ -101,7 +105,7 @@ TEST(DrawImage, PutsThePictureIntoTheRectangle) {
             const Surface surface(4, 4);
             EXPECT_TRUE(image.DrawImage(surface, c.x, c.y, c.cx, c.cy));
             EXPECT_EQ(surface.Letters(), c.letters) << bitCount << " bits";
-            EXPECT_EQ(GetStretchBltMode(surface), COLORONCOLOR);
+            EXPECT_EQ(GetStretchBltMode(surface), COLORONCOLOR) << "deliberately left so";
         }
     }
     const Surface surface(4, 4);
@@ -113,28 +117,28 @@ TEST(DrawImage, LeavesOutTheTransparentColor) {
     const struct {
         uint32_t bitCount;
         int32_t index;
-        RGBQUAD background; ///< counts in 24-bit images
         const char* natural;
         const char* doubled;
     } cases[] = {
-        {8, 2, kGreen, ".g../bk../..../....", "..gg/..gg/bbkk/bbkk"},
-        {4, 1, kGreen, "rg../b.../..../....", "rrgg/rrgg/bb../bb.."},
-        {24, 7, kGreen, "r.../bk../..../....", "rr../rr../bbkk/bbkk"},
-        {24, -1, kGreen, "rg../bk../..../....", "rrgg/rrgg/bbkk/bbkk"},
+        {8, 2, ".g../bk../..../....", "..gg/..gg/bbkk/bbkk"},
+        {4, 1, "rg../b.../..../....", "rrgg/rrgg/bb../bb.."},
+        {24, 7, "r.../bk../..../....", "rr../rr../bbkk/bbkk"},
     };
     for (const auto& c : cases) {
         IsImage image = FourColors(c.bitCount);
         image.SetTransparentIndex(c.index);
-        image.SetBackgroundColor(c.background);
+        image.SetBackgroundColor(kGreen); // counts in 24-bit images
         for (const bool doubled : {false, true}) {
             const Surface surface(4, 4);
             // Colours that a monochrome source would be painted with.
             SetTextColor(surface, RGB(1, 2, 3));
             SetBkColor(surface, RGB(4, 5, 6));
+            SetStretchBltMode(surface, BLACKONWHITE);
             EXPECT_TRUE(image.DrawImage(surface, 0, 0, doubled ? 4 : -1, doubled ? 4 : -1));
             EXPECT_EQ(surface.Letters(), doubled ? c.doubled : c.natural);
             EXPECT_EQ(GetTextColor(surface), RGB(1, 2, 3));
-            EXPECT_EQ(GetBkColor(surface), c.index < 0 ? RGB(4, 5, 6) : RGB(255, 255, 255));
+            EXPECT_EQ(GetBkColor(surface), RGB(255, 255, 255)) << "deliberately";
+            EXPECT_EQ(GetStretchBltMode(surface), BLACKONWHITE);
         }
     }
 }
@@ -146,30 +150,42 @@ TEST(DrawImage, DoesNothingWhereATransparentPictureIsNotVisible) {
     SetBkColor(surface, RGB(4, 5, 6));
     IntersectClipRect(surface, 0, 0, 1, 1);
     EXPECT_TRUE(image.DrawImage(surface, 2, 2, 2, 2));
-    EXPECT_EQ(GetBkColor(surface), RGB(4, 5, 6));
     EXPECT_TRUE(image.DrawImage(surface, INT32_MAX, INT32_MAX, INT32_MAX, INT32_MAX));
+    EXPECT_EQ(GetBkColor(surface), RGB(4, 5, 6));
+    EXPECT_EQ(GetStretchBltMode(surface), BLACKONWHITE) << "that of a new device context";
     EXPECT_EQ(surface.Letters(), "..../..../..../....");
+}
+
+TEST(DrawImage, SidesBeyond31BitsAreCutToThat) {
+    // Wrapped, both sides would be negative: the picture's own size, out of sight.
+    IsImage image = FourColors(8);
+    image.SetTransparentIndex(5);
+    const Surface surface(4, 4);
+    SetBkColor(surface, RGB(4, 5, 6));
+    EXPECT_TRUE(image.DrawImageInRect(surface, RECT{-1000, -1000, INT32_MAX, INT32_MAX}));
+    EXPECT_EQ(GetBkColor(surface), RGB(255, 255, 255)) << "found visible";
 }
 
 TEST(Drawing, IsRefusedWithoutPictureOrTarget) {
     const Surface surface(4, 4);
-    const IsImage empty;
-    IsImage image = FourColors(24);
     const RECT area = {0, 0, 4, 4};
-    EXPECT_FALSE(empty.DrawImage(surface, 0, 0, 2, 2));
-    EXPECT_FALSE(empty.StretchImage(surface, 0, 0, 2, 2, SRCCOPY));
-    EXPECT_FALSE(empty.TileImage(surface, area));
-    EXPECT_FALSE(image.DrawImage(nullptr, 0, 0, 2, 2));
-    EXPECT_FALSE(image.StretchImage(nullptr, 0, 0, 2, 2, SRCCOPY));
-    EXPECT_FALSE(image.TileImage(nullptr, area));
-    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 0, 2));
-    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 2, 0));
-    image.Enable(false);
-    EXPECT_FALSE(image.DrawImage(surface, 0, 0, 2, 2));
-    EXPECT_FALSE(image.TileImage(surface, area));
-    EXPECT_EQ(surface.Letters(), "..../..../..../....");
-    EXPECT_TRUE(image.StretchImage(surface, 0, 0, 2, 2, SRCCOPY)) << "heeds no switch";
-    EXPECT_EQ(surface.Letters(), "rg../bk../..../....");
+    IsImage image = FourColors(24), disabled = image;
+    disabled.Enable(false);
+    const struct {
+        IsImage image;
+        HDC dc;
+        int32_t cx, cy;
+        bool stretches, others;
+    } cases[] = {{IsImage(), surface, 2, 2, false, false}, {image, nullptr, 2, 2, false, false},
+                 {image, surface, 0, 2, true, false},      {image, surface, 2, 0, true, false},
+                 {disabled, surface, 2, 2, true, false},   {image, surface, 2, 2, true, true}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.image.DrawImage(c.dc, 0, 0, c.cx, c.cy), c.others);
+        EXPECT_EQ(surface.Letters(), c.others ? "rg../bk../..../...." : "..../..../..../....");
+        EXPECT_EQ(c.image.TileImage(c.dc, area), c.others || c.cx * c.cy == 0);
+        EXPECT_EQ(c.image.StretchImage(c.dc, 0, 0, c.cx, c.cy, SRCCOPY), c.stretches);
+        surface.Clear();
+    }
 }
 
 TEST(StretchImage, UsesTheRasterOperationAndNoTransparency) {
@@ -184,15 +200,13 @@ TEST(StretchImage, UsesTheRasterOperationAndNoTransparency) {
 }
 
 TEST(TileImage, FillsThePicturesSizeAtTheOrigin) {
-    const IsImage image = FourColors(8);
     const Surface surface(4, 4);
+    const IsImage image = FourColors(8);
     EXPECT_TRUE(image.TileImage(surface, RECT{0, 0, 4, 4}));
     EXPECT_EQ(surface.Letters(), "rg../bk../..../....");
-
-    const Surface shifted(4, 4);
-    SetBrushOrgEx(shifted, 1, 0, nullptr);
-    EXPECT_TRUE(image.TileImage(shifted, RECT{0, 0, 4, 4}));
-    EXPECT_EQ(shifted.Letters(), "gr../kb../..../....") << "aligned to the brush origin";
+    SetBrushOrgEx(surface, 1, 0, nullptr);
+    EXPECT_TRUE(image.TileImage(surface, RECT{0, 0, 4, 4}));
+    EXPECT_EQ(surface.Letters(), "gr../kb../..../....") << "aligned to the brush origin";
 }
 
 } // namespace

@@ -3,12 +3,11 @@
 
 #include "image/CxMemFile.h"
 #include "image/DecodeLimits.h"
-#include "image/ImageBMP.h"
+#include "image/IsImage.h"
+#include "tests/image/Bytes.h"
 
-#include <cstdint>
 #include <cstdio>
 #include <string>
-#include <vector>
 
 /// @file
 /// What the image tests share.
@@ -42,20 +41,28 @@ inline std::string Indices(const IsImage& image) {
     return text;
 }
 
-/// Runs the BMP decoder over `data`, which it cannot read past: the block is exactly as long.
-inline bool DecodeBmp(const std::vector<uint8_t>& data, CxImageBMP& image) {
-    const std::vector<uint8_t> exact(data.begin(), data.end());
+/// Runs a decoder over `data`, which it cannot read past: the block is exactly as long.
+inline bool Decode(const Bytes& data, IsImage& image, uint32_t type) {
+    const Bytes exact(data.begin(), data.end());
     CxMemFile stream(const_cast<uint8_t*>(exact.data()), static_cast<uint32_t>(exact.size()));
-    return image.DecodeBmp(&stream);
+    return image.DecodeByType(type, &stream);
 }
 
-/// Puts the decode limits back at the end of a test.
+/// Sets decode limits, and puts the old ones back at the end of a test.
 class LimitsGuard {
 public:
     LimitsGuard() : m_saved(tint::GetDecodeLimits()) {}
     ~LimitsGuard() { tint::SetDecodeLimits(m_saved); }
     LimitsGuard(const LimitsGuard&) = delete;
     LimitsGuard& operator=(const LimitsGuard&) = delete;
+
+    /// The defaults but for one limit.
+    template <class Number>
+    static void Set(Number tint::DecodeLimits::*limit, uint64_t value) {
+        tint::DecodeLimits limits;
+        limits.*limit = static_cast<Number>(value);
+        tint::SetDecodeLimits(limits);
+    }
 
 private:
     tint::DecodeLimits m_saved;

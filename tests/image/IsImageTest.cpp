@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <string>
 
 using namespace tint;
 using imagetest::LimitsGuard;
@@ -37,59 +36,39 @@ void ExpectEmpty(const IsImage& image) {
     EXPECT_EQ(image.RowPointer(0), nullptr);
     EXPECT_EQ(image.Palette(), nullptr);
     EXPECT_EQ(image.Info().bits, nullptr);
-    EXPECT_EQ(image.Width(), 0u);
-    EXPECT_EQ(image.Height(), 0u);
-    EXPECT_EQ(image.BlockSize(), 0u);
+    EXPECT_EQ(image.Width() + image.Height() + image.BlockSize(), 0u);
 }
 
-struct LayoutCase {
-    const char* name;
-    uint32_t width, height, bitCount;
-    uint32_t stored, entries, stride;
-};
-
-void PrintTo(const LayoutCase& c, std::ostream* out) {
-    *out << c.name;
+TEST(Layout, IsThatOfAZeroedDib) {
+    const struct {
+        uint32_t width, height, bitCount, stored, entries, stride;
+    } cases[] = {{1, 1, 0, 1, 2, 4},    {32, 2, 1, 1, 2, 4},  {33, 2, 1, 1, 2, 8},
+                 {9, 3, 2, 4, 16, 8},   {8, 3, 4, 4, 16, 4},  {3, 3, 5, 8, 256, 4},
+                 {5, 3, 8, 8, 256, 8},  {4, 1, 9, 24, 0, 12}, {5, 2, 16, 24, 0, 16},
+                 {5, 2, 24, 24, 0, 16}, {1, 1, 32, 24, 0, 4}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.width << " wide, " << c.bitCount << " bits");
+        IsImage image;
+        const uint8_t* block = image.CreateImage(c.width, c.height, c.bitCount, kFormatPng);
+        ASSERT_NE(block, nullptr);
+        EXPECT_EQ(block, image.Dib());
+        EXPECT_EQ(image.BitCount(), c.stored);
+        EXPECT_EQ(image.PaletteEntries(), c.entries);
+        EXPECT_EQ(image.EffectiveWidth(), c.stride);
+        EXPECT_EQ(image.BlockSize(), 40 + c.entries * 4 + c.stride * c.height);
+        EXPECT_EQ(image.Type(), uint32_t{kFormatPng});
+        EXPECT_EQ(memcmp(block, &image.Header(), 40), 0) << "the block starts with the header";
+        EXPECT_EQ(image.Palette() != nullptr, c.entries > 0);
+        EXPECT_EQ(image.RowPointer(0), block + 40 + c.entries * 4);
+        EXPECT_EQ(image.RowPointer(0), image.Info().bits);
+        EXPECT_EQ(image.RowPointer(c.height - 1), image.RowPointer(0) + c.stride * (c.height - 1));
+        EXPECT_EQ(image.RowPointer(c.height), nullptr);
+        EXPECT_EQ(std::count(block + 40, block + image.BlockSize(), 0), image.BlockSize() - 40);
+    }
 }
-
-class Layouts : public testing::TestWithParam<LayoutCase> {};
-
-TEST_P(Layouts, CreatesAZeroedBlock) {
-    const LayoutCase& c = GetParam();
-    IsImage image;
-    const uint8_t* block = image.CreateImage(c.width, c.height, c.bitCount, kFormatPng);
-    ASSERT_NE(block, nullptr);
-    EXPECT_EQ(block, image.Dib());
-    EXPECT_EQ(image.BitCount(), c.stored);
-    EXPECT_EQ(image.PaletteEntries(), c.entries);
-    EXPECT_EQ(image.PaletteBytes(), c.entries * 4);
-    EXPECT_EQ(image.EffectiveWidth(), c.stride);
-    EXPECT_EQ(image.BlockSize(), 40 + c.entries * 4 + c.stride * c.height);
-    EXPECT_EQ(image.Type(), uint32_t{kFormatPng});
-    EXPECT_EQ(memcmp(block, &image.Header(), 40), 0) << "the block starts with the header";
-    EXPECT_EQ(image.Palette() != nullptr, c.entries > 0);
-    EXPECT_EQ(image.RowPointer(0), block + 40 + c.entries * 4);
-    EXPECT_EQ(image.RowPointer(0), image.Info().bits);
-    EXPECT_EQ(image.RowPointer(c.height - 1), image.RowPointer(0) + c.stride * (c.height - 1));
-    EXPECT_EQ(image.RowPointer(c.height), nullptr);
-    for (uint32_t i = 40; i < image.BlockSize(); ++i)
-        ASSERT_EQ(block[i], 0) << "byte " << i;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Depths, Layouts,
-    testing::Values(
-        LayoutCase{"Depth0", 1, 1, 0, 1, 2, 4}, LayoutCase{"Depth1", 1, 2, 1, 1, 2, 4},
-        LayoutCase{"Depth1Full", 32, 2, 1, 1, 2, 4}, LayoutCase{"Depth1More", 33, 2, 1, 1, 2, 8},
-        LayoutCase{"Depth2", 9, 3, 2, 4, 16, 8}, LayoutCase{"Depth3", 8, 3, 3, 4, 16, 4},
-        LayoutCase{"Depth4", 8, 3, 4, 4, 16, 4}, LayoutCase{"Depth5", 3, 3, 5, 8, 256, 4},
-        LayoutCase{"Depth8", 5, 3, 8, 8, 256, 8}, LayoutCase{"Depth9", 4, 1, 9, 24, 0, 12},
-        LayoutCase{"Depth16", 5, 2, 16, 24, 0, 16}, LayoutCase{"Depth24", 5, 2, 24, 24, 0, 16},
-        LayoutCase{"Depth32", 1, 1, 32, 24, 0, 4}),
-    [](const auto& test) { return test.param.name; });
 
 /// Sizes in pairs: the last that is accepted and the first that is refused.
-TEST(DibLayoutTest, RefusesSizesThatDoNotFit) {
+TEST(Layout, RefusesSizesThatDoNotFit) {
     const LimitsGuard guard;
     DecodeLimits open;
     open.maxPixels = UINT64_MAX;
@@ -105,7 +84,6 @@ TEST(DibLayoutTest, RefusesSizesThatDoNotFit) {
         // A row of 2^32 bits, where a 32-bit product would start again at 0.
         {178956969, 1, 24, nullptr},
         {178956970, 1, 24, "image row exceeds 32 bits"},
-        {178956971, 1, 24, "image row exceeds 32 bits"},
         {1, 0x7FFFFFFF, 1, "image exceeds 2 GiB"},
         {1, 0x80000000, 1, "image width or height exceeds 31 bits"},
         {0xFFFFFFFF, 1, 1, "image width or height exceeds 31 bits"},
@@ -115,16 +93,15 @@ TEST(DibLayoutTest, RefusesSizesThatDoNotFit) {
         // 65536 rows of 65536 bytes: exactly 2^32, nothing in 32 bits.
         {65536, 65536, 8, "image exceeds 2 GiB"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.width << " x " << c.height << " x " << c.bitCount);
-        DibLayout layout;
-        EXPECT_STREQ(LayOutDib(c.width, c.height, c.bitCount, layout), c.refusal);
-    }
-}
-
-TEST(DecodeLimitsTest, TheLastIsAcceptedAndTheNextRefusedByName) {
-    const LimitsGuard guard;
+    DibLayout layout;
+    for (const auto& c : cases)
+        EXPECT_STREQ(LayOutDib(c.width, c.height, c.bitCount, layout), c.refusal)
+            << c.width << " x " << c.height << " x " << c.bitCount;
     DecodeLimits limits;
+    SetDecodeLimits(limits);
+    EXPECT_EQ(LayOutDib(20000, 20000, 24, layout), nullptr) << "400 megapixels";
+    EXPECT_NE(LayOutDib(65500, 65500, 1, layout), nullptr);
+
     limits.maxPixels = 100;
     limits.maxBlockBytes = 40 + 32 * 4;
     SetDecodeLimits(limits);
@@ -132,59 +109,41 @@ TEST(DecodeLimitsTest, TheLastIsAcceptedAndTheNextRefusedByName) {
     EXPECT_NE(image.CreateImage(10, 4, 24), nullptr);
     EXPECT_STREQ(image.LastErrorText(), "");
     EXPECT_EQ(image.CreateImage(11, 4, 24), nullptr);
-    EXPECT_NE(strstr(image.LastErrorText(), "maxBlockBytes"), nullptr) << image.LastErrorText();
+    EXPECT_STREQ(image.LastErrorText(), "image exceeds the limit maxBlockBytes");
     ExpectEmpty(image);
     EXPECT_NE(image.CreateImage(10, 10, 1), nullptr);
     EXPECT_EQ(image.CreateImage(101, 1, 1), nullptr);
-    EXPECT_NE(strstr(image.LastErrorText(), "maxPixels"), nullptr) << image.LastErrorText();
+    EXPECT_STREQ(image.LastErrorText(), "image exceeds the limit maxPixels");
 }
 
-TEST(DecodeLimitsTest, TheDefaultsAreGenerousButFinite) {
-    DibLayout layout;
-    EXPECT_EQ(LayOutDib(20000, 20000, 24, layout), nullptr) << "400 megapixels";
-    EXPECT_NE(LayOutDib(65500, 65500, 24, layout), nullptr);
-    EXPECT_NE(LayOutDib(65500, 65500, 1, layout), nullptr);
-}
-
-TEST(IsImageTest, StartsWithDefaults) {
-    const IsImage image(kFormatJpeg);
+TEST(Settings, StartWithDefaults) {
+    OpenImage image;
     ExpectEmpty(image);
-    EXPECT_EQ(image.Type(), uint32_t{kFormatJpeg});
+    EXPECT_EQ(IsImage(kFormatJpeg).Type(), uint32_t{kFormatJpeg});
     EXPECT_EQ(image.Info().jpegQuality, 90);
     EXPECT_EQ(image.Info().transparentIndex, -1);
     EXPECT_EQ(image.Info().enabled, 1);
-    EXPECT_EQ(image.Info().xDpi, 96u);
-    EXPECT_EQ(image.Info().yDpi, 96u);
+    EXPECT_EQ(image.Info().xDpi + image.Info().yDpi, 192u);
     EXPECT_STREQ(image.LastErrorText(), "");
-    ExpectEmpty(IsImage(0));
+    image.SetErrorText(std::string(256, 'b').c_str());
+    EXPECT_EQ(image.LastErrorText(), std::string(255, 'b'));
+    image.SetErrorText(nullptr);
+    EXPECT_STREQ(image.LastErrorText(), "");
 }
 
-TEST(IsImageTest, AFailedCreationLeavesNothing) {
-    IsImage image;
-    ASSERT_NE(image.CreateImage(2, 2, 8), nullptr);
-    EXPECT_EQ(image.CreateImage(0, 2, 8), nullptr);
-    ExpectEmpty(image);
-    ASSERT_NE(image.CreateImage(2, 2, 8), nullptr);
-    EXPECT_EQ(image.CreateImage(2, 0, 8), nullptr);
-    ExpectEmpty(image);
-}
-
-TEST(IsImageTest, KeepsResolutionsInBothUnits) {
+TEST(Settings, KeepResolutionsInBothUnits) {
     const struct {
         int32_t dpi;
         uint32_t stored;
         int32_t pixelsPerMeter;
     } cases[] = {{0, 96, 3780},
                  {-5, 96, 3780},
-                 {1, 1, 39},
                  {72, 72, 2835},
-                 {300, 300, 11811},
                  {54545454, 54545454, 2147458819},
                  {INT32_MAX, INT32_MAX, INT32_MAX}};
     IsImage image;
     image.CreateImage(1, 1, 1);
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.dpi);
         image.SetHorizontalDpi(c.dpi);
         image.SetVerticalDpi(c.dpi);
         EXPECT_EQ(image.Info().xDpi, c.stored);
@@ -195,11 +154,21 @@ TEST(IsImageTest, KeepsResolutionsInBothUnits) {
     }
 }
 
-TEST(IsImageTest, AGhostSharesAndOwnsNothing) {
-    OpenImage source;
+TEST(Settings, FormatValuesHaveASlotForTheImagesOwnType) {
+    IsImage image(kFormatPng);
+    image.SetFormatValue(0, 33);
+    image.SetFormatValue(kFormatJpeg, 22);
+    image.SetFormatValue(4, 44);
+    const uint32_t values[] = {33, 0, 22, 33, 0};
+    for (uint32_t format = 0; format < 5; ++format)
+        EXPECT_EQ(image.FormatValue(format), values[format]) << format;
+    EXPECT_EQ(IsImage(77u).FormatValue(0), 0u);
+}
+
+TEST(Ownership, AGhostSharesAndOwnsNothing) {
+    OpenImage source, ghost;
     source.CreateImage(2, 1, 24);
     source.sideBuffer = static_cast<uint8_t*>(calloc(1, 4));
-    OpenImage ghost;
     ghost.CreateImage(5, 5, 8); // its own content goes, or the leak checker speaks up
     ghost.Ghost(nullptr);
     EXPECT_EQ(ghost.Width(), 5u);
@@ -208,7 +177,6 @@ TEST(IsImageTest, AGhostSharesAndOwnsNothing) {
     EXPECT_EQ(ghost.sideBuffer, source.sideBuffer);
     EXPECT_EQ(ghost.Info().ghostOf, &source);
     EXPECT_TRUE(ghost.SetPixelColor(1, 0, Rgb(0x102030)));
-    EXPECT_EQ(Picture(source), "000000 102030");
 
     EXPECT_FALSE(ghost.DestroyImage());
     EXPECT_EQ(ghost.CreateImage(1, 1, 1), nullptr);
@@ -221,7 +189,7 @@ TEST(IsImageTest, AGhostSharesAndOwnsNothing) {
     EXPECT_EQ(Picture(source), "000000 102030");
 }
 
-TEST(IsImageTest, TransferMovesEverything) {
+TEST(Ownership, TransferMovesEverything) {
     OpenImage source, target;
     source.CreateImage(2, 1, 4, kFormatBmp);
     source.SetJpegQuality(50);
@@ -230,6 +198,7 @@ TEST(IsImageTest, TransferMovesEverything) {
     target.CreateImage(9, 9, 24);
     target.SetErrorText("kept");
     EXPECT_TRUE(target.Transfer(source));
+    EXPECT_TRUE(target.Transfer(target));
     EXPECT_EQ(target.Dib(), block);
     EXPECT_NE(target.sideBuffer, nullptr);
     EXPECT_EQ(target.Type(), uint32_t{kFormatBmp});
@@ -239,25 +208,21 @@ TEST(IsImageTest, TransferMovesEverything) {
     ExpectEmpty(source);
     EXPECT_EQ(source.sideBuffer, nullptr);
     EXPECT_EQ(source.Info().jpegQuality, 0);
-
-    EXPECT_TRUE(target.Transfer(target));
-    EXPECT_EQ(target.Dib(), block);
 }
 
-TEST(IsImageTest, CopiesAreIndependent) {
-    IsImage source;
+TEST(Ownership, CopiesAreIndependent) {
+    IsImage source, ghost, assigned, settings;
     source.CreateImage(2, 1, 1, kFormatPng);
     source.SetPaletteColor(1, Rgb(0x112233));
     source.SetPixelIndex(1, 0, 1);
     source.SetHorizontalDpi(300);
     source.SetTransparentIndex(1);
     IsImage copy(source);
-    IsImage ghost;
     ghost.Ghost(&source);
-    IsImage assigned;
     assigned.CreateImage(3, 3, 24);
     assigned = ghost;
     source.SetPixelIndex(0, 0, 1);
+    EXPECT_TRUE(copy.Copy(copy));
     for (const IsImage* image : {&copy, &assigned}) {
         EXPECT_EQ(Picture(*image), "000000 112233");
         EXPECT_EQ(image->Info().ghostOf, nullptr);
@@ -266,31 +231,20 @@ TEST(IsImageTest, CopiesAreIndependent) {
         EXPECT_EQ(image->Info().transparentIndex, 1);
         EXPECT_EQ(image->Type(), uint32_t{kFormatPng});
     }
-    EXPECT_TRUE(copy.Copy(copy));
-    EXPECT_EQ(Picture(copy), "000000 112233");
     copy = IsImage();
     ExpectEmpty(copy);
+
+    settings.CopyInfo(ghost);
+    EXPECT_EQ(settings.Info().transparentIndex, 1);
+    ExpectEmpty(settings);
+    EXPECT_EQ(settings.Info().ghostOf, nullptr);
+    EXPECT_NE(settings.CreateImage(1, 1, 1), nullptr);
+    source.SetTransparentIndex(0);
+    settings.CopyInfo(source);
+    EXPECT_EQ(settings.Info().transparentIndex, 1) << "taken only while empty";
 }
 
-TEST(IsImageTest, CopyInfoTakesSettingsOnlyWhileEmpty) {
-    IsImage source(kFormatPng);
-    source.CreateImage(2, 2, 24, kFormatPng);
-    source.SetJpegQuality(17);
-    IsImage ghost;
-    ghost.Ghost(&source);
-    IsImage target;
-    target.CopyInfo(ghost);
-    EXPECT_EQ(target.Info().jpegQuality, 17);
-    EXPECT_EQ(target.Type(), uint32_t{kFormatPng});
-    ExpectEmpty(target);
-    EXPECT_EQ(target.Info().ghostOf, nullptr);
-    EXPECT_NE(target.CreateImage(1, 1, 1), nullptr);
-    source.SetJpegQuality(18);
-    target.CopyInfo(source);
-    EXPECT_EQ(target.Info().jpegQuality, 17);
-}
-
-TEST(IsImageTest, PixelsOfEveryDepthComeBackAndLeaveTheirNeighboursAlone) {
+TEST(Pixels, OfEveryDepthComeBackAndLeaveTheirNeighboursAlone) {
     for (const uint32_t bits : {1u, 4u, 8u}) {
         SCOPED_TRACE(bits);
         IsImage image;
@@ -315,65 +269,24 @@ TEST(IsImageTest, PixelsOfEveryDepthComeBackAndLeaveTheirNeighboursAlone) {
     EXPECT_EQ(Picture(image), "000000 000000 / 000000 123456") << "row 0 is the lowest";
     EXPECT_FALSE(image.SetPixelColor(2, 0, Rgb(1)));
     EXPECT_FALSE(image.SetPixelIndex(0, 0, 0)) << "no palette";
-    EXPECT_EQ(image.GetPixelIndex(1, 0), 0);
-    EXPECT_EQ(Hex(image.GetPixelColor(0, 2)), 0u);
-    EXPECT_EQ(Hex(IsImage().GetPixelColor(0, 0)), 0u);
+    EXPECT_EQ(Hex(image.GetPixelColor(0, 2)) + Hex(IsImage().GetPixelColor(0, 0)), 0u);
 }
 
-TEST(IsImageTest, PaletteColorsAreBoundedAndTheNearestIsFound) {
+TEST(Pixels, OfAPaletteAreTheNearestEntry) {
     IsImage image;
     image.CreateImage(1, 1, 4);
     for (uint32_t i = 0; i < 16; ++i)
-        EXPECT_TRUE(image.SetPaletteColor(i, Rgb(i * 0x101010)));
-    RGBQUAD reserved = Rgb(0xFFFFFF);
-    reserved.rgbReserved = 7;
-    EXPECT_FALSE(image.SetPaletteColor(16, reserved));
-    EXPECT_TRUE(image.SetPaletteColor(15, reserved));
+        EXPECT_TRUE(image.SetPaletteColor(i, {0, 0, static_cast<uint8_t>(i * 16), 7}));
+    EXPECT_FALSE(image.SetPaletteColor(16, Rgb(0)));
     EXPECT_EQ(image.Palette()[15].rgbReserved, 0);
-    EXPECT_EQ(Hex(image.GetPaletteColor(3)), 0x303030u);
+    EXPECT_EQ(Hex(image.GetPaletteColor(3)), 0x300000u);
     EXPECT_EQ(Hex(image.GetPaletteColor(16)), 0u);
-    EXPECT_EQ(image.GetNearestIndex(Rgb(0x313032)), 3);
-    EXPECT_EQ(image.GetNearestIndex(Rgb(0x282828)), 2) << "the first of equals";
-    EXPECT_TRUE(image.SetPixelColor(0, 0, Rgb(0xF8F8F9)));
+    EXPECT_EQ(image.GetNearestIndex(Rgb(0x310002)), 3);
+    EXPECT_EQ(image.GetNearestIndex(Rgb(0x280000)), 2) << "the first of equals";
+    EXPECT_TRUE(image.SetPixelColor(0, 0, Rgb(0xF80001)));
     EXPECT_EQ(image.GetPixelIndex(0, 0), 15);
     EXPECT_EQ(IsImage().GetNearestIndex(Rgb(0)), 0);
     EXPECT_FALSE(IsImage().SetPaletteColor(0, Rgb(0)));
-}
-
-TEST(IsImageTest, FlipsOddAndEvenNumbersOfRows) {
-    for (const uint32_t height : {1u, 2u, 3u, 6u}) {
-        IsImage image;
-        image.CreateImage(1, height, 8);
-        for (uint32_t y = 0; y < height; ++y)
-            image.SetPixelIndex(0, y, static_cast<uint8_t>(y));
-        EXPECT_TRUE(image.FlipRows());
-        for (uint32_t y = 0; y < height; ++y)
-            EXPECT_EQ(image.GetPixelIndex(0, y), height - 1 - y);
-    }
-    EXPECT_FALSE(IsImage().FlipRows());
-}
-
-TEST(IsImageTest, FormatValuesHaveASlotForTheImagesOwnType) {
-    IsImage image(kFormatPng);
-    image.SetFormatValue(0, 33);
-    image.SetFormatValue(kFormatJpeg, 22);
-    image.SetFormatValue(4, 44);
-    EXPECT_EQ(image.FormatValue(0), 33u);
-    EXPECT_EQ(image.FormatValue(kFormatPng), 33u);
-    EXPECT_EQ(image.FormatValue(kFormatJpeg), 22u);
-    EXPECT_EQ(image.FormatValue(kFormatBmp), 0u);
-    EXPECT_EQ(image.FormatValue(4), 0u);
-    EXPECT_EQ(IsImage(77u).FormatValue(0), 0u);
-}
-
-TEST(IsImageTest, TheErrorTextIsCutAt255Characters) {
-    OpenImage image;
-    image.SetErrorText(std::string(254, 'a').c_str());
-    EXPECT_EQ(strlen(image.LastErrorText()), 254u);
-    image.SetErrorText(std::string(256, 'b').c_str());
-    EXPECT_EQ(image.LastErrorText(), std::string(255, 'b'));
-    image.SetErrorText(nullptr);
-    EXPECT_STREQ(image.LastErrorText(), "");
 }
 
 } // namespace

@@ -4,12 +4,10 @@
 #include "image/CxMemFile.h"
 #include "image/JpegErrors.h"
 #include "image/JpegStream.h"
+#include "tests/image/Bytes.h"
 
-#include <cstdint>
 #include <cstdlib>
 #include <string>
-#include <utility>
-#include <vector>
 
 /// @file
 /// JPEG files for tests and as seeds for the fuzzers: encoded by the library through our own
@@ -17,7 +15,10 @@
 
 namespace jpegtest {
 
-using Bytes = std::vector<uint8_t>;
+using imagetest::Append;
+using imagetest::Bytes;
+using imagetest::Number;
+using imagetest::With;
 
 /// What a made-up picture is to be; its samples are a smooth slope, or all `sample`.
 struct Picture {
@@ -58,19 +59,6 @@ inline uint8_t SampleAt(const Picture& picture, uint32_t x, uint32_t y, int comp
     return static_cast<uint8_t>(x * 5 + y * 3 + static_cast<uint32_t>(component) * 50);
 }
 
-inline J_COLOR_SPACE ColorSpaceOf(const Picture& picture) {
-    switch (picture.components) {
-    case 1:
-        return JCS_GRAYSCALE;
-    case 3:
-        return JCS_RGB;
-    case 4:
-        return JCS_CMYK;
-    default:
-        return JCS_UNKNOWN;
-    }
-}
-
 /// The scans of the picture where the library's own script is not meant.
 inline std::vector<jpeg_scan_info> ScansOf(const Picture& picture) {
     std::vector<jpeg_scan_info> scans;
@@ -98,7 +86,8 @@ inline void EncodeStep(void* context) {
     library.image_width = picture.width;
     library.image_height = picture.height;
     library.input_components = picture.components;
-    library.in_color_space = ColorSpaceOf(picture);
+    const J_COLOR_SPACE spaces[] = {JCS_UNKNOWN, JCS_GRAYSCALE, JCS_UNKNOWN, JCS_RGB, JCS_CMYK};
+    library.in_color_space = spaces[picture.components];
     jpeg_set_defaults(&library);
     if (picture.ycck)
         jpeg_set_colorspace(&library, JCS_YCCK);
@@ -147,30 +136,20 @@ inline Bytes JpegFile(const Picture& picture) {
     return Bytes(data, data + target.Size());
 }
 
-/// Byte by byte: GCC warns of an overrun in the vector's own insertion behind a few known bytes.
-inline void Append(Bytes& out, const Bytes& more) {
-    for (const uint8_t byte : more)
-        out.push_back(byte);
-}
-
 /// A marker section with its two length bytes.
 inline Bytes Section(uint8_t marker, const Bytes& content) {
-    const size_t length = content.size() + 2;
-    Bytes out = {0xFF, marker, static_cast<uint8_t>(length >> 8), static_cast<uint8_t>(length)};
+    Bytes out = {0xFF, marker};
+    Append(out, Number(content.size() + 2, 2, true));
     Append(out, content);
     return out;
 }
 
 /// `file` with sections, or any bytes, behind its first two.
 inline Bytes WithSections(const Bytes& file, const std::vector<Bytes>& sections) {
-    Bytes out;
-    for (size_t i = 0; i < file.size(); ++i) {
-        if (i == 2) {
-            for (const Bytes& section : sections)
-                Append(out, section);
-        }
-        out.push_back(file[i]);
-    }
+    Bytes out = imagetest::Cut(file, 2);
+    for (const Bytes& section : sections)
+        Append(out, section);
+    Append(out, Bytes(file.begin() + 2, file.end()));
     return out;
 }
 
@@ -179,10 +158,8 @@ inline Bytes WithFrameSize(Bytes file, uint16_t width, uint16_t height) {
     for (size_t i = 2; i + 9 < file.size();) {
         const uint8_t marker = file[i + 1];
         if (marker >= 0xC0 && marker <= 0xCA && marker != 0xC4 && marker != 0xC8) {
-            file[i + 5] = static_cast<uint8_t>(height >> 8);
-            file[i + 6] = static_cast<uint8_t>(height);
-            file[i + 7] = static_cast<uint8_t>(width >> 8);
-            file[i + 8] = static_cast<uint8_t>(width);
+            const Bytes sides = Number(uint32_t{height} << 16 | width, 4, true);
+            std::copy(sides.begin(), sides.end(), file.begin() + static_cast<ptrdiff_t>(i) + 5);
             return file;
         }
         i += 2u + (file[i + 2] << 8 | file[i + 3]);

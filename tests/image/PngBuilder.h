@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/image/Bytes.h"
+
 #include <zlib.h>
 
-#include <cstddef>
-#include <cstdint>
 #include <string>
 #include <utility>
-#include <vector>
 
 /// @file
 /// PNG files built chunk by chunk, for tests and as seeds for the fuzzers.
 
 namespace pngtest {
 
-using Bytes = std::vector<uint8_t>;
+using imagetest::Append;
+using imagetest::Bytes;
+using imagetest::Number;
+using Chunks = std::vector<std::pair<std::string, Bytes>>;
 
 enum ColorType : uint8_t { kGrey = 0, kRgb = 2, kPalette = 3, kGreyAlpha = 4, kRgbAlpha = 6 };
 
@@ -24,24 +26,22 @@ struct Png {
     uint8_t bitDepth = 8;
     uint32_t width = 1;
     uint32_t height = 1;
-    Bytes rows; ///< top row first, packed, each row starting at a byte
+    Bytes rows;    ///< top row first, packed, each row starting at a byte
+    Chunks chunks; ///< those between header and pixels, in order
     bool interlaced = false;
-    std::vector<std::pair<std::string, Bytes>>
-        chunks; ///< those between header and pixels, in order
 };
 
-inline void AppendBe32(Bytes& out, uint32_t value) {
-    for (int shift = 24; shift >= 0; shift -= 8)
-        out.push_back(static_cast<uint8_t>(value >> shift));
+inline Png Make(ColorType type, uint8_t bits, uint32_t width, uint32_t height, const Bytes& rows,
+                const Chunks& chunks = {}) {
+    return {type, bits, width, height, rows, chunks};
 }
 
 inline void AppendChunk(Bytes& out, const std::string& type, const Bytes& data) {
-    AppendBe32(out, static_cast<uint32_t>(data.size()));
-    const size_t start = out.size();
-    out.insert(out.end(), type.begin(), type.end());
-    out.insert(out.end(), data.begin(), data.end());
-    AppendBe32(out, static_cast<uint32_t>(
-                        crc32(0, out.data() + start, static_cast<uInt>(out.size() - start))));
+    Bytes chunk(type.begin(), type.end());
+    chunk.insert(chunk.end(), data.begin(), data.end());
+    Append(out, Number(data.size(), 4, true));
+    out.insert(out.end(), chunk.begin(), chunk.end());
+    Append(out, Number(crc32(0, chunk.data(), static_cast<uInt>(chunk.size())), 4, true));
 }
 
 inline uint32_t PixelBits(const Png& png) {
@@ -92,11 +92,9 @@ inline Bytes Deflate(const Bytes& data) {
 
 inline Bytes PngFile(const Png& png) {
     Bytes out = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-    Bytes header;
-    AppendBe32(header, png.width);
-    AppendBe32(header, png.height);
-    for (const int field : {int{png.bitDepth}, int{png.colorType}, 0, 0, int{png.interlaced}})
-        header.push_back(static_cast<uint8_t>(field));
+    Bytes header = Number(png.width, 4, true);
+    Append(header, Number(png.height, 4, true));
+    Append(header, {png.bitDepth, png.colorType, 0, 0, png.interlaced});
     AppendChunk(out, "IHDR", header);
     for (const auto& chunk : png.chunks)
         AppendChunk(out, chunk.first, chunk.second);

@@ -14,69 +14,51 @@ using namespace tint;
 
 namespace {
 
-struct KernelCase {
-    const char* name;
-    int32_t method;
-    uint32_t taps;
-    double at0, atHalf, at1, at3Halves; ///< weights at 0, 1/2, 1 and 3/2
-    double reach;                       ///< the weight is 0 beyond
-};
-
-void PrintTo(const KernelCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class Kernels : public testing::TestWithParam<KernelCase> {};
-
-TEST_P(Kernels, HasTheValuesOfItsFormula) {
-    const KernelCase& c = GetParam();
-    const Kernel& kernel = KernelOf(c.method);
-    EXPECT_EQ(kernel.taps, c.taps);
-    EXPECT_EQ(kernel.normalized, c.method != kLanczos);
-    EXPECT_NEAR(kernel.weight(0), c.at0, 1e-6);
-    EXPECT_NEAR(kernel.weight(0.5), c.atHalf, 1e-6);
-    EXPECT_NEAR(kernel.weight(1), c.at1, 1e-6);
-    EXPECT_NEAR(kernel.weight(1.5), c.at3Halves, 1e-6);
-    EXPECT_LE(c.reach, c.taps / 2);
-    for (double t = 0.01; t < 8; t += 0.01) {
-        EXPECT_DOUBLE_EQ(kernel.weight(t), kernel.weight(-t)) << t;
-        if (t > c.reach) {
-            EXPECT_EQ(kernel.weight(t), 0) << t;
+TEST(KernelsTest, HaveTheValuesOfTheirFormulas) {
+    const struct {
+        const char* name;
+        int32_t method;
+        uint32_t taps;
+        double at0, atHalf, at1, at3Halves; ///< weights at 0, 1/2, 1 and 3/2
+        double reach;                       ///< the weight is 0 beyond
+    } cases[] = {
+        {"Nearest", 0, 2, 1, 1, 0, 0, 0.5},
+        {"Bilinear", 1, 2, 1, 0.5, 0, 0, 1},
+        {"CubicSoft", 2, 4, 1, 0.59375, 0, -0.09375, 2},
+        {"CubicSharp", 3, 4, 1, 0.625, 0, -0.125, 2},
+        {"BSpline", 4, 4, 2.0 / 3, 23.0 / 48, 1.0 / 6, 1.0 / 48, 2},
+        {"Lanczos", 5, 12, 1, 0.6293724, 0, -0.1910531, 6},
+        {"Box", 6, 4, 1, 1, 0, 0, 0.5},
+        {"Hermite", 7, 4, 1, 0.5, 0, 0, 1},
+        {"Hamming", 8, 4, 1, 0.54, 0, 0, 1},
+        {"Sinc", 9, 4, 1, 0.6366198, 0, -0.2122066, 2},
+        {"Blackman", 10, 4, 1, 0.4924594, 0, -0.0141004, 2},
+        {"Bessel", 11, 4, 0.7853982, 0.5668241, 0.1423077, -0.0938860, 2},
+        {"Gaussian", 12, 4, 1, 0.6065307, 0.1353353, 0.0111090, 2},
+        {"Quadratic", 13, 4, 0.75, 0.5, 0.125, 0, 1.5},
+        {"Mitchell", 14, 4, 8.0 / 9, 77.0 / 144, 1.0 / 18, -5.0 / 144, 2},
+        {"CatmullRom", 15, 4, 1, 0.5625, 0, -0.0625, 2},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Kernel& kernel = KernelOf(c.method);
+        EXPECT_EQ(kernel.taps, c.taps);
+        EXPECT_EQ(kernel.normalized, c.method != kLanczos);
+        EXPECT_NEAR(kernel.weight(0), c.at0, 1e-6);
+        EXPECT_NEAR(kernel.weight(0.5), c.atHalf, 1e-6);
+        EXPECT_NEAR(kernel.weight(1), c.at1, 1e-6);
+        EXPECT_NEAR(kernel.weight(1.5), c.at3Halves, 1e-6);
+        for (double t = 0.01; t < 8; t += 0.01) {
+            EXPECT_DOUBLE_EQ(kernel.weight(t), kernel.weight(-t)) << t;
+            EXPECT_TRUE(t <= c.reach || kernel.weight(t) == 0) << t;
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, Kernels,
-    testing::Values(KernelCase{"Nearest", 0, 2, 1, 1, 0, 0, 0.5},
-                    KernelCase{"Bilinear", 1, 2, 1, 0.5, 0, 0, 1},
-                    KernelCase{"CubicSoft", 2, 4, 1, 0.59375, 0, -0.09375, 2},
-                    KernelCase{"CubicSharp", 3, 4, 1, 0.625, 0, -0.125, 2},
-                    KernelCase{"BSpline", 4, 4, 2.0 / 3, 23.0 / 48, 1.0 / 6, 1.0 / 48, 2},
-                    KernelCase{"Lanczos", 5, 12, 1, 0.6293724, 0, -0.1910531, 6},
-                    KernelCase{"Box", 6, 4, 1, 1, 0, 0, 0.5},
-                    KernelCase{"Hermite", 7, 4, 1, 0.5, 0, 0, 1},
-                    KernelCase{"Hamming", 8, 4, 1, 0.54, 0, 0, 1},
-                    KernelCase{"Sinc", 9, 4, 1, 0.6366198, 0, -0.2122066, 2},
-                    KernelCase{"Blackman", 10, 4, 1, 0.4924594, 0, -0.0141004, 2},
-                    KernelCase{"Bessel", 11, 4, 0.7853982, 0.5668241, 0.1423077, -0.0938860, 2},
-                    KernelCase{"Gaussian", 12, 4, 1, 0.6065307, 0.1353353, 0.0111090, 2},
-                    KernelCase{"Quadratic", 13, 4, 0.75, 0.5, 0.125, 0, 1.5},
-                    KernelCase{"Mitchell", 14, 4, 8.0 / 9, 77.0 / 144, 1.0 / 18, -5.0 / 144, 2},
-                    KernelCase{"CatmullRom", 15, 4, 1, 0.5625, 0, -0.0625, 2}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(KernelsTest, AMethodOutOfRangeBehavesAsLanczos) {
-    for (const int32_t method : {-1, 16, INT32_MIN, INT32_MAX})
-        EXPECT_EQ(&KernelOf(method), &KernelOf(kLanczos)) << method;
-}
-
-TEST(KernelsTest, NearestTakesOnePixelOfTwoAsNear) {
-    EXPECT_EQ(NearestWeight(0.5) + NearestWeight(-0.5), 1);
-    EXPECT_EQ(BoxWeight(0.5) + BoxWeight(-0.5), 2);
-}
-
 TEST(KernelsTest, WeightsAddUpToOne) {
+    EXPECT_EQ(NearestWeight(0.5) + NearestWeight(-0.5), 1) << "one of two as near";
+    EXPECT_EQ(&KernelOf(16), &KernelOf(kLanczos));
+    EXPECT_EQ(&KernelOf(-1), &KernelOf(kLanczos));
     for (int32_t method = kNearest; method <= kCatmullRom; ++method) {
         SCOPED_TRACE(method);
         // The Lanczos kernel is not divided by its sum.
@@ -87,29 +69,20 @@ TEST(KernelsTest, WeightsAddUpToOne) {
     }
 }
 
-/// Every source pixel counts as much as any other, whatever the sizes.
-TEST(CoverageTest, SharesOutEachSourcePixel) {
-    const uint32_t sizes[][2] = {{12, 4}, {13, 4},   {13, 12}, {7, 1},       {1, 1},
-                                 {5, 3},  {1000, 7}, {4, 4},   {100003, 17}, {3, 2}};
-    for (const auto& [source, target] : sizes) {
-        SCOPED_TRACE(testing::Message() << source << " to " << target);
-        const AxisWeights axis = WeightsOf({source, target, nullptr}, 0, target);
-        std::vector<double> shares(source);
-        for (uint32_t at = 0; at < target; ++at) {
-            for (uint32_t k = 0; k < axis.taps; ++k) {
-                ASSERT_GE(axis.Of(at)[k], 0);
-                shares.at(static_cast<size_t>(axis.starts[at]) + k) += axis.Of(at)[k];
-            }
-        }
-        for (const double share : shares)
-            ASSERT_NEAR(share * source / target, 1, 1e-5);
-    }
+/// In single precision 400000017 / 200000000 is a little too much, and the last windows lie outside.
+TEST(KernelsTest, WindowsBeyondAVeryLongSideAreCountedOut) {
+    const int64_t side = 400000017;
+    const AxisWeights axis = WeightsOf({side, 200000000, &KernelOf(kLanczos)}, 200000000 - 40, 40);
+    const size_t within = axis.CountWithin(side);
+    ASSERT_TRUE(within > 0 && within < 40) << within;
+    EXPECT_LT(axis.starts[within - 1], side);
+    EXPECT_GE(axis.starts[within], side);
 }
 
 /// Positions whose products do not fit 32 bits.
 TEST(CoverageTest, HoldsAtTheLargestSizes) {
     const AxisWeights axis = WeightsOf({INT32_MAX, INT32_MAX - 1, nullptr}, INT32_MAX - 3, 2);
-    EXPECT_EQ(axis.taps, 3u);
+    ASSERT_EQ(axis.taps, 3u);
     EXPECT_EQ(axis.starts[1], INT32_MAX - 3);
     EXPECT_NEAR(axis.Of(1)[1], 0, 1e-6);
     EXPECT_NEAR(axis.Of(1)[2], 1, 1e-6);

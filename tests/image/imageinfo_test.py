@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """imageinfo_test.py IMAGEINFO SEEDS: runs the command on pictures, good and bad."""
 import json
+import os
 import pathlib
 import subprocess
 import sys
@@ -13,7 +14,8 @@ SEEDS = None
 
 
 def run(*arguments):
-    done = subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, timeout=30)
+    words = [word if isinstance(word, bytes) else str(word) for word in arguments]
+    done = subprocess.run([PROGRAM, *words], capture_output=True, timeout=30)
     return done.returncode, [json.loads(line) for line in done.stdout.decode().splitlines()]
 
 
@@ -42,9 +44,22 @@ class ImageInfo(unittest.TestCase):
             self.assertNotEqual(lines[0]['error'], '')
             self.assertEqual((lines[0]['format'], lines[0]['width']), ('unknown', 0))
 
-    def test_goes_on_after_a_bad_file(self):
-        status, lines = run('--memory', self.text, SEEDS / 'depth24.bmp')
-        self.assertEqual((status, [line['ok'] for line in lines]), (1, [False, True]))
+    def test_any_path_comes_out_as_json(self):
+        for path, text in ((b'a "b"\\\n\x1f', None), ('\u00e4\u20ac\U0001f600'.encode(), None),
+                           # Broken UTF-8 is taken for Latin-1: cut, overlong, a surrogate.
+                           (b'\xe4.bmp', '\u00e4.bmp'), (b'\xc3', '\u00c3'), (b'\xc0\xaf', '\u00c0\u00af'),
+                           (b'\xed\xa0\x80', '\u00ed\u00a0\u0080'),
+                           (b'\xf4\x90\x80\x80', '\u00f4\u0090\u0080\u0080')):
+            self.assertEqual(run(path)[1][0]['file'], text or path.decode())
+
+    def test_refuses_what_no_buffer_holds_and_goes_on(self):
+        large = self.folder / 'large.bmp'
+        large.touch()
+        for size in (2**31, 2**32 + 54):
+            os.truncate(large, size)  # sparse
+            status, lines = run('--memory', large, SEEDS / 'depth24.bmp')
+            self.assertEqual((status, [line['ok'] for line in lines]), (1, [False, True]))
+            self.assertIn('too large', lines[0]['error'])
 
     def test_writes_a_ppm_top_row_first(self):
         ppm = self.folder / 'out.ppm'
