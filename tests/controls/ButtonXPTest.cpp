@@ -186,10 +186,8 @@ TEST_P(ButtonXPColors, FollowEveryState) {
     dialog.SetDefID(kOther);
     subject.Invalidate();
     EXPECT_TRUE(ComesToShow(dialog, Resting().Disabled()));
-    subject.EnableWindow();
     automation::MoveMouseOver(subject.m_hWnd);
-    EXPECT_TRUE(ComesToShow(dialog, Hot()));
-    subject.EnableWindow(FALSE);
+    PumpFor();
     EXPECT_TRUE(ComesToShow(dialog, Resting().Disabled())) << "disabled under the mouse";
 
     const automation::SystemColorGuard other(automation::FindColorScheme("default")->colors);
@@ -263,6 +261,16 @@ TEST(ButtonXP, NothingReachesTheTargetBeforeTheBufferCloses) {
     dialog.m_subject.DrawItem(&item);
     EXPECT_EQ(beforeTheCopy, Canvas::kUntouched);
     EXPECT_EQ(canvas.At(0, 0), Emphasised().frame);
+}
+
+TEST(ButtonXP, DisabledUnderTheMouseItIsHotNoMore) {
+    ButtonDialog dialog;
+    automation::MoveMouseOver(dialog.m_subject.m_hWnd);
+    ASSERT_TRUE(ComesToShow(dialog, Hot()));
+    const Canvas canvas(200, 60);
+    DRAWITEMSTRUCT item = RequestFor(dialog.m_subject, canvas, ODS_DISABLED);
+    dialog.m_subject.DrawItem(&item);
+    EXPECT_EQ(canvas.At(0, 0), Resting().frame);
 }
 
 TEST(ButtonXP, APaintLeavesTheContextAsFoundAndGivesEverythingBack) {
