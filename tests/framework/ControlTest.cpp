@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The control classes: that owner-draw controls draw, measure and compare through the virtual members,
-// and which bitmap a bitmap button shows.
+// The control classes: that owner-draw controls draw, measure and compare through the virtual
+// members, and which bitmap a bitmap button shows.
 #include <afxext.h>
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Part of every Windows test program: a crash anywhere in it makes the test fail.
 //
-// Left to itself, a crash can look like success. Wine swallows a fault in a hook or paint procedure
-// and lets the program go on; and where it ends the program for a fault in a second thread, the exit
-// status can be 0. So the fault is met before anybody else's handler sees it.
+// Left to itself, a crash can look like success. Wine swallows a fault in a hook or while painting
+// and lets the program go on; and where it ends the program for a fault in a second thread, the
+// exit status can be 0. So the fault is met before anybody else's handler sees it.
 #include <windows.h>
 
 namespace {
