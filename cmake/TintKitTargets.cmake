@@ -37,9 +37,12 @@ function(tintkit_add_program name)
 endfunction()
 
 # tintkit_add_test(NAME TIMEOUT SECONDS SOURCES ... LIBRARIES ...): the program NAME_test, run as
-# one test. A message box that waits for ever is ended by the time limit.
+# one test. A message box that waits for ever is ended by the time limit; a crash is a failure.
 function(tintkit_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
+    if(WIN32)
+        list(APPEND arg_SOURCES "${PROJECT_SOURCE_DIR}/tests/support/CrashGuard.cpp")
+    endif()
     tintkit_add_program(${name}_test ${arg_SOURCES})
     target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES})
     add_test(NAME ${TINTKIT_TEST_PREFIX}${name} COMMAND ${name}_test)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Collections of fixed element types.
+/// Collections of a fixed element type.
 #pragma once
 
 #include "afx.h"
-#include "afx/FixedCollections.h"
+#include "afx/CPtrList.h"

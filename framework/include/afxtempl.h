@@ -5,6 +5,5 @@
 
 #include "afx.h"
 #include "afx/CollectionHelpers.h"
-#include "afx/CArray.h"
 #include "afx/CList.h"
 #include "afx/CMap.h"

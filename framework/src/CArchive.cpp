@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The buffer and text; values stand in CArchiveValues.cpp, objects in CArchiveObjects.cpp.
+// The buffer and text; values stand in CArchiveValues.cpp.
 #include "afx/CArchive.h"
 
 #include "afx/Diagnostics.h"
@@ -18,8 +18,7 @@ constexpr size_t smallestBuffer = 128;
 CArchive::CArchive(CFile* pFile, UINT nMode, int nBufSize, void* lpBuf)
     : m_pDocument(nullptr), m_file(pFile), m_storing((nMode & load) == 0),
       m_flushOnDelete((nMode & bNoFlushOnDelete) == 0), m_buffer(static_cast<BYTE*>(lpBuf)),
-      m_bufferSize(static_cast<size_t>((std::max)(nBufSize, 0))),
-      m_objectSchema(static_cast<UINT>(-1)) {
+      m_bufferSize(static_cast<size_t>((std::max)(nBufSize, 0))) {
     if (pFile == nullptr) {
         AfxThrowInvalidArgException();
     }

@@ -2,14 +2,11 @@
 #include "afx/CFile.h"
 
 #include "afx/CDumpContext.h"
-#include "afx/CFileStatus.h"
 #include "afx/Diagnostics.h"
 
 #include <algorithm>
 #include <climits>
 #include <commdlg.h>
-#include <cstring>
-#include <memory>
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
 
@@ -83,28 +80,6 @@ CString absolutePath(const char* path) {
     const DWORD length = ::GetFullPathNameA(path, size, buffer, nullptr);
     full.ReleaseBuffer(length < size ? static_cast<int>(length) : 0);
     return full;
-}
-
-ULONGLONG join(DWORD high, DWORD low) {
-    return (ULONGLONG{high} << 32) | low;
-}
-
-void setPath(CFileStatus& status, const CString& path) {
-    const size_t length = static_cast<size_t>(path.GetLength());
-    const size_t copied = length < sizeof(status.m_szFullName) ? length : 0;
-    std::memcpy(status.m_szFullName, path.GetString(), copied);
-    status.m_szFullName[copied] = '\0';
-}
-
-template <class INFORMATION>
-void fill(CFileStatus& status, const INFORMATION& information) {
-    status.m_ctime = CTime(information.ftCreationTime);
-    status.m_mtime = CTime(information.ftLastWriteTime);
-    status.m_atime = CTime(information.ftLastAccessTime);
-    status.m_size = join(information.nFileSizeHigh, information.nFileSizeLow);
-    // FILE_ATTRIBUTE_NORMAL (0x80) means "no attribute", which the framework writes as 0.
-    status.m_attribute =
-        static_cast<BYTE>(information.dwFileAttributes & ~DWORD{FILE_ATTRIBUTE_NORMAL});
 }
 
 } // namespace
@@ -186,20 +161,6 @@ void CFile::Flush() {
     }
 }
 
-CFile* CFile::Duplicate() const {
-    requireOpen();
-    auto copy = std::make_unique<CFile>();
-    const HANDLE process = ::GetCurrentProcess();
-    HANDLE handle = nullptr;
-    if (!::DuplicateHandle(process, m_hFile, process, &handle, 0, FALSE, DUPLICATE_SAME_ACCESS)) {
-        throwLastError();
-    }
-    copy->m_hFile = handle;
-    copy->m_closeOnDelete = true;
-    copy->m_filePath = m_filePath;
-    return copy.release();
-}
-
 UINT CFile::Read(void* lpBuf, UINT nCount) {
     requireOpen();
     DWORD done = 0;
@@ -268,22 +229,6 @@ void CFile::SetLength(ULONGLONG dwNewLen) {
     }
 }
 
-void CFile::LockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
-    requireOpen();
-    if (!::LockFile(m_hFile, static_cast<DWORD>(dwPos), static_cast<DWORD>(dwPos >> 32),
-                    static_cast<DWORD>(dwCount), static_cast<DWORD>(dwCount >> 32))) {
-        throwLastError();
-    }
-}
-
-void CFile::UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
-    requireOpen();
-    if (!::UnlockFile(m_hFile, static_cast<DWORD>(dwPos), static_cast<DWORD>(dwPos >> 32),
-                      static_cast<DWORD>(dwCount), static_cast<DWORD>(dwCount >> 32))) {
-        throwLastError();
-    }
-}
-
 CString CFile::GetFilePath() const {
     return m_filePath;
 }
@@ -304,51 +249,6 @@ CString CFile::GetFileTitle() const {
 
 void CFile::SetFilePath(LPCTSTR lpszNewName) {
     m_filePath = lpszNewName;
-}
-
-BOOL CFile::GetStatus(CFileStatus& rStatus) const {
-    rStatus = CFileStatus();
-    setPath(rStatus, m_filePath);
-    if (m_hFile == hFileNull) {
-        return TRUE;
-    }
-    BY_HANDLE_FILE_INFORMATION information;
-    if (!::GetFileInformationByHandle(m_hFile, &information)) {
-        return FALSE;
-    }
-    fill(rStatus, information);
-    return TRUE;
-}
-
-BOOL PASCAL CFile::GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus,
-                             CAtlTransactionManager* pTM) {
-    WIN32_FILE_ATTRIBUTE_DATA information;
-    if (pTM != nullptr || lpszFileName == nullptr ||
-        !::GetFileAttributesExA(lpszFileName, GetFileExInfoStandard, &information)) {
-        return FALSE;
-    }
-    rStatus = CFileStatus();
-    setPath(rStatus, absolutePath(lpszFileName));
-    fill(rStatus, information);
-    return TRUE;
-}
-
-void PASCAL CFile::Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName, CAtlTransactionManager* pTM) {
-    if (pTM != nullptr) {
-        AfxThrowNotSupportedException();
-    }
-    if (!::MoveFileA(lpszOldName, lpszNewName)) {
-        CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), lpszOldName);
-    }
-}
-
-void PASCAL CFile::Remove(LPCTSTR lpszFileName, CAtlTransactionManager* pTM) {
-    if (pTM != nullptr) {
-        AfxThrowNotSupportedException();
-    }
-    if (!::DeleteFileA(lpszFileName)) {
-        CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), lpszFileName);
-    }
 }
 
 void CFile::Dump(CDumpContext& dc) const {

@@ -64,22 +64,6 @@ void CMemFile::Abort() {
 
 void CMemFile::Flush() {}
 
-CFile* CMemFile::Duplicate() const {
-    AfxThrowNotSupportedException();
-}
-
-void CMemFile::LockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
-    UNUSED_ALWAYS(dwPos);
-    UNUSED_ALWAYS(dwCount);
-    AfxThrowNotSupportedException();
-}
-
-void CMemFile::UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) {
-    UNUSED_ALWAYS(dwPos);
-    UNUSED_ALWAYS(dwCount);
-    AfxThrowNotSupportedException();
-}
-
 BYTE* CMemFile::Alloc(SIZE_T nBytes) {
     return static_cast<BYTE*>(std::malloc(nBytes));
 }

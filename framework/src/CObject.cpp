@@ -6,8 +6,6 @@
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr, nullptr};
 
-static const afx::ClassRegistration registerCObject(CObject::GetThisClass());
-
 CRuntimeClass* PASCAL CObject::GetThisClass() {
     return const_cast<CRuntimeClass*>(&classCObject);
 }
@@ -18,10 +16,6 @@ CRuntimeClass* CObject::GetRuntimeClass() const {
 
 BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return GetRuntimeClass()->IsDerivedFrom(pClass);
-}
-
-BOOL CObject::IsSerializable() const {
-    return GetRuntimeClass()->m_wSchema != 0xFFFF;
 }
 
 void CObject::Serialize(CArchive& ar) {

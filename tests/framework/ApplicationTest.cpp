@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The application: profile, idle time, commands, threads, command line, message texts.
+// The application: profile, idle time, commands.
 #include <afxpriv.h>
 
 #include <gtest/gtest.h>
@@ -65,75 +65,39 @@ protected:
     char m_file[MAX_PATH] = {};
 };
 
-TEST_P(Profile, Numbers) {
+TEST_P(Profile, KeepsNumbersTextsAndBytes) {
     EXPECT_EQ(m_app.GetProfileInt("Look", "Shade", 42), 42U);
-    for (const int value : {0, 7, -3, 2147483647}) {
+    for (const int value : {0, -3, 2147483647}) {
         EXPECT_TRUE(m_app.WriteProfileInt("Look", "Shade", value));
-        EXPECT_EQ(static_cast<int>(m_app.GetProfileInt("Look", "Shade", 42)), value);
         EXPECT_EQ(static_cast<int>(m_app.GetProfileInt("LOOK", "shade", 42)), value);
     }
-}
 
-TEST_P(Profile, Strings) {
     const auto stored = [this] { return m_app.GetProfileString("Files", "Last", "none"); };
     EXPECT_EQ(stored(), "none");
-    EXPECT_EQ(m_app.GetProfileString("Files", "Last"), "");
     for (const char* const text : {"C:\\a b.txt", ""}) {
         EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", text));
         EXPECT_EQ(stored(), text);
     }
     EXPECT_TRUE(m_app.WriteProfileString("Files", "Last", nullptr));
     EXPECT_EQ(stored(), "none");
-    m_app.WriteProfileString("Files", "Last", "x");
-    EXPECT_TRUE(m_app.WriteProfileString("Files", nullptr, nullptr));
-    EXPECT_EQ(stored(), "none");
-}
 
-TEST_P(Profile, Bytes) {
     BYTE* data = nullptr;
     UINT size = 1;
+    m_app.WriteProfileString("Look", "Place", "@ not a number or code");
+    EXPECT_EQ(m_app.GetProfileInt("Look", "Place", 42), GetParam() ? 42U : 0U);
     EXPECT_FALSE(m_app.GetProfileBinary("Look", "Place", &data, &size));
-    EXPECT_EQ(data, nullptr);
-    EXPECT_EQ(size, 0U);
-    BYTE stored[] = {0x00, 0xFF, 0x1A, 0xA1};
-    EXPECT_TRUE(m_app.WriteProfileBinary("Look", "Place", stored, sizeof(stored)));
+    EXPECT_TRUE(data == nullptr && size == 0);
+    BYTE bytes[] = {0x00, 0xFF, 0x1A, 0xA1};
+    EXPECT_TRUE(m_app.WriteProfileBinary("Look", "Place", bytes, sizeof(bytes)));
     ASSERT_TRUE(m_app.GetProfileBinary("Look", "Place", &data, &size));
     const std::unique_ptr<BYTE[]> owner(data);
-    ASSERT_EQ(size, sizeof(stored));
-    EXPECT_EQ(std::memcmp(data, stored, size), 0);
-}
-
-TEST_P(Profile, EntriesOfAnotherKind) {
-    BYTE* data = nullptr;
-    UINT size = 0;
-    m_app.WriteProfileString("Look", "Shade", "@ not a number or code");
-    EXPECT_EQ(m_app.GetProfileInt("Look", "Shade", 42), GetParam() ? 42U : 0U);
-    m_app.WriteProfileString("Look", "Hex", "0x1F");
-    EXPECT_EQ(m_app.GetProfileInt("Look", "Hex", 42), GetParam() ? 42U : 31U);
-    EXPECT_FALSE(m_app.GetProfileBinary("Look", "Shade", &data, &size));
+    ASSERT_EQ(size, sizeof(bytes));
+    EXPECT_EQ(std::memcmp(data, bytes, size), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Application, Profile, testing::Bool(), [](const auto& param) {
     return std::string(param.param ? "Registry" : "IniFile");
 });
-
-// ---- Names --------------------------------------------------------------------------------------
-
-TEST(Application, NamesAndHandles) {
-    App app;
-    EXPECT_EQ(AfxGetApp(), &app);
-    EXPECT_EQ(AfxGetThread(), &app);
-    EXPECT_STREQ(AfxGetAppName(), "ApplicationTest");
-    EXPECT_EQ(CString(app.m_pszProfileName), CString(app.m_pszExeName) + ".INI");
-    EXPECT_EQ(app.m_hInstance, AfxGetInstanceHandle());
-    EXPECT_EQ(app.m_nThreadID, ::GetCurrentThreadId());
-    AfxSetResourceHandle(::GetModuleHandle("user32.dll"));
-    EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle("user32.dll"));
-    // A resource that is not where resources are looked for first may be in the program.
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(4711), RT_DIALOG), AfxGetResourceHandle());
-    AfxSetResourceHandle(nullptr);
-    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
-}
 
 // ---- Message loop and idle time -----------------------------------------------------------------
 
@@ -208,25 +172,6 @@ TEST_F(Running, SomeMessagesAreNotWorthAnIdleCall) {
     }
 }
 
-TEST_F(Running, TheMainWindowSeesTheMessagesOfWindowsBesideIt) {
-    class Asked : public MainWindow {
-    public:
-        int m_asked = 0;
-        BOOL PreTranslateMessage(MSG* msg) override {
-            m_asked += msg->message == WM_APP + 9 ? 1 : 0;
-            return FALSE;
-        }
-    } main;
-    ASSERT_TRUE(main.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
-    m_app.m_pMainWnd = &main;
-    MSG msg = {};
-    msg.hwnd = m_window.m_hWnd;
-    msg.message = WM_APP + 9;
-    EXPECT_FALSE(m_app.PreTranslateMessage(&msg));
-    EXPECT_EQ(main.m_asked, 1);
-    m_app.m_pMainWnd = nullptr;
-}
-
 TEST_F(Running, CommandsOfTheApplicationAndTheirFailure) {
     EXPECT_TRUE(m_app.OnCmdMsg(ID_APP_EXIT, CN_COMMAND, nullptr, nullptr));
     EXPECT_EQ(m_window.m_closes, 1);
@@ -252,28 +197,12 @@ TEST_F(Running, CommandsOfTheApplicationAndTheirFailure) {
     }
 }
 
-TEST(Application, WaitCursorsNest) {
-    App app;
-    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW);
-    const HCURSOR wait = ::LoadCursor(nullptr, IDC_WAIT);
-    ::SetCursor(arrow);
-    {
-        CWaitCursor outer;
-        EXPECT_EQ(::GetCursor(), wait);
-        { CWaitCursor inner; }
-        EXPECT_EQ(::GetCursor(), wait);
-        ::SetCursor(arrow);
-        outer.Restore();
-        EXPECT_EQ(::GetCursor(), wait);
-    }
-    EXPECT_EQ(::GetCursor(), arrow);
-}
-
 // ---- User-interface items -----------------------------------------------------------------------
 
 class CommandTarget : public CWnd {
 public:
-    afx_msg void OnKnown() {}
+    int m_commands = 0;
+    afx_msg void OnKnown() { ++m_commands; }
     afx_msg void OnUpdateOff(CCmdUI* ui) { ui->Enable(FALSE); }
     afx_msg void OnUpdateText(CCmdUI* ui) {
         ui->SetText("told");
@@ -310,170 +239,14 @@ TEST_F(Running, ControlsFollowTheirCommands) {
     EXPECT_TRUE(buttons[2].IsWindowEnabled());
 }
 
-TEST(Application, MenuItemsAsUserInterface) {
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, 20, "first");
-    menu.AppendMenu(MF_STRING, 21, "second");
-    CCmdUI ui;
-    ui.m_pMenu = &menu;
-    ui.m_nIndex = 1;
-    ui.m_nID = 21;
-    ui.Enable(FALSE);
-    EXPECT_TRUE((menu.GetMenuState(21, MF_BYCOMMAND) & MF_GRAYED) != 0);
-    ui.Enable();
-    ui.SetRadio();
-    ui.SetText("renamed");
-    EXPECT_EQ(menu.GetMenuState(21, MF_BYCOMMAND) & (MF_GRAYED | MF_CHECKED),
-              static_cast<UINT>(MF_CHECKED));
-    CString text;
-    menu.GetMenuString(1, text, MF_BYPOSITION);
-    EXPECT_EQ(text, "renamed");
-}
-
 TEST(Application, ADisabledCommandIsNotRun) {
-    class Counting : public CommandTarget {
-    public:
-        int m_commands = 0;
-        BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
-            m_commands += code == CN_COMMAND ? 1 : 0;
-            return CommandTarget::OnCmdMsg(id, code, extra, info);
-        }
-    } window;
+    CommandTarget window;
     ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0));
     window.SendMessage(WM_COMMAND, MAKEWPARAM(11, 1)); // as an accelerator
     EXPECT_EQ(window.m_commands, 0);
     window.SendMessage(WM_COMMAND, MAKEWPARAM(10, 1));
     EXPECT_EQ(window.m_commands, 1);
     window.DestroyWindow();
-}
-
-// ---- Threads ------------------------------------------------------------------------------------
-
-UINT AFX_CDECL Worker(LPVOID parameter) {
-    auto* const seen = static_cast<CWinThread**>(parameter);
-    *seen = AfxGetThread();
-    return 5;
-}
-
-TEST(Application, WorkerThreads) {
-    CWinThread* seen = nullptr;
-    CWinThread* const thread =
-        AfxBeginThread(&Worker, &seen, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    ASSERT_NE(thread, nullptr);
-    thread->m_bAutoDelete = FALSE;
-    const std::unique_ptr<CWinThread> owner(thread);
-    thread->ResumeThread();
-    ASSERT_EQ(::WaitForSingleObject(thread->m_hThread, 5000), static_cast<DWORD>(WAIT_OBJECT_0));
-    EXPECT_EQ(seen, thread);
-    DWORD code = 0;
-    ::GetExitCodeThread(thread->m_hThread, &code);
-    EXPECT_EQ(code, 5U);
-}
-
-class LoopThread : public CWinThread {
-    DECLARE_DYNCREATE(LoopThread)
-
-public:
-    static HWND s_window;
-    static bool s_ended;
-
-    BOOL InitInstance() override {
-        m_window.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 5, 5), nullptr, 0);
-        m_pMainWnd = &m_window;
-        s_window = m_window.m_hWnd;
-        return TRUE;
-    }
-    int ExitInstance() override {
-        s_ended = true;
-        return CWinThread::ExitInstance();
-    }
-
-private:
-    CWnd m_window;
-};
-HWND LoopThread::s_window;
-bool LoopThread::s_ended;
-IMPLEMENT_DYNCREATE(LoopThread, CWinThread)
-
-TEST(Application, AThreadEndsWithItsMainWindow) {
-    LoopThread::s_window = nullptr;
-    LoopThread::s_ended = false;
-    CWinThread* const thread =
-        AfxBeginThread(RUNTIME_CLASS(LoopThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-    ASSERT_NE(thread, nullptr);
-    HANDLE handle = nullptr;
-    ASSERT_TRUE(::DuplicateHandle(::GetCurrentProcess(), thread->m_hThread, ::GetCurrentProcess(),
-                                  &handle, SYNCHRONIZE, FALSE, 0));
-    thread->ResumeThread(); // the object deletes itself from here on
-    ASSERT_TRUE(PumpUntil([] { return LoopThread::s_window != nullptr; }));
-    // Objects belong to their thread: here the window is a stranger's.
-    EXPECT_EQ(CWnd::FromHandlePermanent(LoopThread::s_window), nullptr);
-    ::PostMessage(LoopThread::s_window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(::WaitForSingleObject(handle, 5000), static_cast<DWORD>(WAIT_OBJECT_0));
-    EXPECT_TRUE(LoopThread::s_ended);
-    ::CloseHandle(handle);
-    EXPECT_EQ(AfxBeginThread(RUNTIME_CLASS(CWnd)), nullptr) << "a window class is no thread class";
-}
-
-// ---- Command line and texts ---------------------------------------------------------------------
-
-TEST(Application, CommandLines) {
-    const struct {
-        std::vector<const char*> arguments;
-        int command;
-        const char* file;
-        const char* printer;
-    } rows[] = {
-        {{}, CCommandLineInfo::FileNew, "", ""},
-        {{"a.txt"}, CCommandLineInfo::FileOpen, "a.txt", ""},
-        {{"/p", "a.txt"}, CCommandLineInfo::FilePrint, "a.txt", ""},
-        {{"-pt", "a.txt", "laser", "drv", "lpt1"}, CCommandLineInfo::FilePrintTo, "a.txt", "laser"},
-        {{"/dde"}, CCommandLineInfo::FileDDE, "", ""},
-        {{"/Register"}, CCommandLineInfo::AppRegister, "", ""},
-        {{"/unregserver"}, CCommandLineInfo::AppUnregister, "", ""},
-    };
-    for (const auto& row : rows) {
-        CCommandLineInfo info;
-        for (size_t i = 0; i < row.arguments.size(); ++i) {
-            const char* const argument = row.arguments[i];
-            const bool flag = argument[0] == '/' || argument[0] == '-';
-            info.ParseParam(flag ? argument + 1 : argument, flag, i + 1 == row.arguments.size());
-        }
-        SCOPED_TRACE(row.file);
-        EXPECT_EQ(info.m_nShellCommand, row.command);
-        EXPECT_EQ(info.m_strFileName, row.file);
-        EXPECT_EQ(info.m_strPrinterName, row.printer);
-        EXPECT_TRUE(info.m_bShowSplash);
-    }
-    CCommandLineInfo automation;
-    automation.ParseParam("Automation", TRUE, TRUE);
-    EXPECT_TRUE(automation.m_bRunAutomated);
-    EXPECT_FALSE(automation.m_bShowSplash);
-}
-
-TEST(Application, MessageBoxesGoThroughTheApplication) {
-    App app;
-    EXPECT_EQ(AfxMessageBox("question"), IDYES);
-    EXPECT_EQ(AfxMessageBox(static_cast<UINT>(4711)), IDYES);
-    EXPECT_EQ(app.m_boxes, (std::vector<std::string>{"question", ""}));
-}
-
-TEST(Application, PartsOfAText) {
-    CString part = "unchanged";
-    EXPECT_FALSE(AfxExtractSubString(part, nullptr, 0));
-    EXPECT_EQ(part, "unchanged");
-    const struct {
-        const char* text;
-        int index;
-        const char* part; ///< null: there is none
-    } rows[] = {{"a\nbc\n", 0, "a"},     {"a\nbc\n", 1, "bc"}, {"a\nbc\n", 2, ""},
-                {"a\nbc\n", 3, nullptr}, {"", 0, ""},          {"", 1, nullptr}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.index);
-        EXPECT_EQ(AfxExtractSubString(part, row.text, row.index), row.part != nullptr);
-        EXPECT_EQ(part, row.part == nullptr ? "" : row.part);
-    }
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The control classes: that each member reaches its control, and that owner-draw controls draw,
-// measure and compare through the virtual members.
+// The control classes: that owner-draw controls draw, measure and compare through the virtual
+// members, and which bitmap a bitmap button shows.
 #include <afxext.h>
 
 #include <gtest/gtest.h>
@@ -26,78 +26,6 @@ protected:
 
 const DWORD Visible = WS_CHILD | WS_VISIBLE;
 const CRect Place(10, 10, 110, 60);
-
-// ---- Standard members: those that do more than pass a message on --------------------------------
-
-TEST_F(Controls, Edit) {
-    CEdit edit;
-    ASSERT_TRUE(edit.Create(Visible | ES_MULTILINE | ES_AUTOVSCROLL, Place, &m_parent, 5));
-    edit.SetWindowText("first\r\nsecond");
-    char line[4] = {};
-    EXPECT_EQ(edit.GetLine(1, line, 3), 3);
-    EXPECT_STREQ(line, "sec");
-    edit.SetSel(1, 3);
-    int start = 0;
-    int end = 0;
-    edit.GetSel(start, end);
-    EXPECT_TRUE(start == 1 && end == 3);
-    edit.SetSel(static_cast<DWORD>(MAKELONG(0, -1)));
-    EXPECT_EQ(edit.GetSel(), static_cast<DWORD>(MAKELONG(0, 13)));
-    edit.SetMargins(3, 4);
-    EXPECT_EQ(edit.GetMargins(), static_cast<DWORD>(MAKELONG(3, 4)));
-    EXPECT_EQ(LOWORD(edit.CharFromPos(edit.PosFromChar(1))), 1);
-}
-
-TEST_F(Controls, Lists) {
-    CListBox list;
-    ASSERT_TRUE(list.Create(Visible | LBS_EXTENDEDSEL, Place, &m_parent, 5));
-    for (const char* const item : {"alpha", "b", "gamma"})
-        list.AddString(item);
-    CString text;
-    list.GetText(2, text);
-    EXPECT_EQ(text, "gamma");
-    list.GetText(7, text);
-    EXPECT_TRUE(text.IsEmpty());
-    EXPECT_EQ(list.FindString(-1, "ga"), 2);
-    EXPECT_EQ(list.FindStringExact(-1, "ga"), LB_ERR);
-    list.SetItemDataPtr(2, &text);
-    EXPECT_EQ(list.GetItemDataPtr(2), &text);
-    list.SelItemRange(TRUE, 1, 2);
-    int selected[3] = {};
-    EXPECT_EQ(list.GetSelItems(3, selected), 2);
-    EXPECT_EQ(selected[1], 2);
-    list.SelItemRange(FALSE, 1, 2);
-    EXPECT_EQ(list.GetSelCount(), 0);
-    CRect item;
-    list.GetItemRect(1, &item);
-    BOOL outside = TRUE;
-    EXPECT_EQ(list.ItemFromPoint(item.CenterPoint(), outside), 1U);
-    EXPECT_FALSE(outside);
-
-    CComboBox combo;
-    ASSERT_TRUE(combo.Create(Visible | CBS_DROPDOWN, CRect(0, 0, 100, 100), &m_parent, 6));
-    combo.AddString("one");
-    combo.AddString("two");
-    combo.GetLBText(0, text);
-    EXPECT_EQ(text, "one");
-    EXPECT_EQ(combo.SelectString(-1, "o"), 0);
-    combo.ShowDropDown();
-    EXPECT_TRUE(combo.GetDroppedState());
-}
-
-TEST_F(Controls, ScrollBars) {
-    CScrollBar bar;
-    ASSERT_TRUE(bar.Create(Visible | SBS_HORZ, Place, &m_parent, 5));
-    bar.SetScrollRange(0, 100);
-    bar.SetScrollPos(40);
-    SCROLLINFO info = {};
-    info.fMask = SIF_PAGE;
-    info.nPage = 11;
-    bar.SetScrollInfo(&info);
-    EXPECT_EQ(bar.GetScrollLimit(), 90);
-    EXPECT_TRUE(bar.GetScrollInfo(&info));
-    EXPECT_TRUE(info.nPos == 40 && info.nMax == 100);
-}
 
 // ---- Owner-draw controls ------------------------------------------------------------------------
 
@@ -145,11 +73,6 @@ TEST_F(Controls, OwnerDrawMembersAreReached) {
     button.RedrawWindow();
     EXPECT_EQ(button.m_calls.count("draw"), 1U);
     button.DestroyWindow();
-    Drawn<CStatic> label;
-    ASSERT_TRUE(label.Create("s", Visible | SS_OWNERDRAW, Place, &m_parent, 6));
-    label.RedrawWindow();
-    EXPECT_EQ(label.m_calls.count("draw"), 1U);
-    label.DestroyWindow();
     DrawnList<CListBox> list;
     ASSERT_TRUE(list.Create(Visible | LBS_OWNERDRAWVARIABLE | LBS_SORT, Place, &m_parent, 7));
     list.ExpectSortedAndDrawn();
@@ -158,33 +81,6 @@ TEST_F(Controls, OwnerDrawMembersAreReached) {
     const DWORD style = Visible | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT;
     ASSERT_TRUE(combo.Create(style, CRect(0, 0, 100, 100), &m_parent, 8));
     combo.ExpectSortedAndDrawn();
-}
-
-TEST_F(Controls, TheKeysOfAnOwnerDrawListBox) {
-    class KeyList : public CListBox {
-    public:
-        UINT m_key = 0;
-        UINT m_char = 0;
-        int VKeyToItem(UINT key, UINT index) override {
-            EXPECT_EQ(index, 0U);
-            m_key = key;
-            return 1; // the item to go to
-        }
-        int CharToItem(UINT key, UINT) override {
-            m_char = key;
-            return -2;
-        }
-    } list;
-    ASSERT_TRUE(
-        list.Create(Visible | LBS_OWNERDRAWFIXED | LBS_WANTKEYBOARDINPUT, Place, &m_parent, 5));
-    list.AddString("a");
-    list.AddString("b");
-    list.SetCurSel(0);
-    list.SendMessage(WM_KEYDOWN, VK_F5);
-    EXPECT_EQ(list.m_key, static_cast<UINT>(VK_F5));
-    EXPECT_EQ(list.GetCurSel(), 1);
-    list.SendMessage(WM_CHAR, 'x');
-    EXPECT_EQ(list.m_char, static_cast<UINT>('x'));
 }
 
 // ---- Bitmap buttons -----------------------------------------------------------------------------
@@ -217,6 +113,8 @@ TEST_F(Controls, BitmapButtonStates) {
     ColourButton focusWithoutTab;
     ASSERT_TRUE(focusWithoutTab.Create("", Visible | BS_OWNERDRAW, Place, &m_parent, 7));
     focusWithoutTab.Fill(false, true, false);
+    CBitmapButton none;
+    ASSERT_TRUE(none.Create("NONE", Visible | BS_OWNERDRAW, Place, &m_parent, 8));
     const struct {
         ColourButton& button;
         UINT state;
@@ -242,23 +140,14 @@ TEST_F(Controls, BitmapButtonStates) {
         EXPECT_EQ(canvas.Count(row.colour, item.rcItem), 16 * 8);
         EXPECT_EQ(canvas.Count(Canvas::kUntouched, CRect(0, 0, 30, 20)), 30 * 20 - 16 * 8);
     }
-    all.SizeToContent();
-    CRect size;
-    all.GetWindowRect(&size);
-    EXPECT_EQ(size.Size(), CSize(16, 8));
-}
-
-TEST_F(Controls, BitmapButtonsWithoutBitmaps) {
-    CBitmapButton button;
-    ASSERT_TRUE(button.Create("NONE", Visible | BS_OWNERDRAW, Place, &m_parent, 5));
-    EXPECT_FALSE(button.LoadBitmaps("there is no such bitmap"));
-    EXPECT_FALSE(button.LoadBitmaps(4711, 4712));
-    EXPECT_FALSE(button.AutoLoad(5, &m_parent));
-    button.SizeToContent();
-    CRect size;
-    button.GetWindowRect(&size);
-    EXPECT_EQ(size.Size(), Place.Size());
-    button.RedrawWindow();
+    for (CBitmapButton* const button : {static_cast<CBitmapButton*>(&all), &none}) {
+        button->SizeToContent();
+        CRect size;
+        button->GetWindowRect(&size);
+        EXPECT_EQ(size.Size(), button == &all ? CSize(16, 8) : Place.Size());
+    }
+    EXPECT_FALSE(none.LoadBitmaps("there is no such bitmap") || none.AutoLoad(5, &m_parent));
+    none.RedrawWindow();
 }
 
 } // namespace

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// CArchive: stores values and objects to a file and loads them again.
+/// CArchive: stores values to a file and loads them again.
 ///
 ///     CArchive archive(&file, CArchive::store);
-///     archive << count << name << shape;
+///     archive << count << name << place;
 ///     archive.Close();
 #pragma once
 
 #include "afx/CArchiveException.h"
 #include "afx/CFile.h"
 
-#include <unordered_map>
 #include <vector>
 
 class CDocument;
@@ -19,8 +18,7 @@ namespace afx {
 class ArchiveCount;
 }
 
-/// One pass of storing or loading over a file. Values are little-endian. Objects keep their
-/// identity: several pointers to one object are one object after loading.
+/// One pass of storing or loading over a file. Values are little-endian.
 ///
 /// Loading trusts nothing it reads: a damaged or hostile file ends in CArchiveException, and no
 /// length or count makes it allocate memory that the file cannot fill. Functions throw
@@ -65,22 +63,6 @@ public:
     /// @return false when the file has ended.
     BOOL ReadString(CString& rString);
 
-    /// Loads an object; the caller owns it, together with all others that point to it.
-    /// @param pClass class that the object must have or derive from; null accepts any.
-    CObject* ReadObject(const CRuntimeClass* pClass);
-    void WriteObject(const CObject* pOb);
-    /// Makes an object known to those stored or loaded after it, without storing it.
-    void MapObject(const CObject* pOb);
-    void WriteClass(const CRuntimeClass* pClassRef);
-    /// @param pSchema receives the schema number. @param pObTag receives the tag of an object
-    ///        where one stands in place of a class; without it that is an error.
-    CRuntimeClass* ReadClass(const CRuntimeClass* pClassRefRequested = nullptr,
-                             UINT* pSchema = nullptr, DWORD* pObTag = nullptr);
-    void SerializeClass(const CRuntimeClass* pClassRef);
-    /// Schema number of the object being loaded; -1 when unknown or asked for the second time.
-    UINT GetObjectSchema();
-    void SetObjectSchema(UINT nSchema);
-
     CArchive& operator<<(BYTE by);
     CArchive& operator<<(WORD w);
     CArchive& operator<<(LONG l);
@@ -116,14 +98,6 @@ public:
 private:
     friend class afx::ArchiveCount;
 
-    /// What an index in the file stands for; exactly one of both pointers is set.
-    struct LoadedEntry {
-        CObject* object;
-        CRuntimeClass* runtimeClass;
-        UINT schema;
-        bool shared;
-    };
-
     template <class VALUE>
     CArchive& put(VALUE value);
     template <class VALUE>
@@ -135,13 +109,6 @@ private:
     void readExactly(void* data, size_t size);
     ULONGLONG bytesLeft() const;
     ULONGLONG readStringLength(bool& wide);
-    DWORD nextIndex() const;
-    void checkRoomForIndex() const;
-    void storeTag(DWORD index, DWORD bigFlag, WORD smallFlag);
-    void storeClassDescription(const CRuntimeClass* runtimeClass);
-    CRuntimeClass* loadClassDescription(UINT& schema);
-    CObject* existingObject(DWORD index, const CRuntimeClass* requested);
-    CObject* newObject(CRuntimeClass* runtimeClass, UINT schema);
 
     CFile* m_file;
     bool m_storing;
@@ -153,15 +120,8 @@ private:
     size_t m_used = 0;
     /// Loading: bytes in the buffer.
     size_t m_filled = 0;
-    UINT m_objectSchema;
-    int m_depth = 0;
-    std::unordered_map<const void*, DWORD> m_stored;
-    std::vector<LoadedEntry> m_loaded;
 };
 
-CArchive& AFXAPI operator<<(CArchive& ar, const CObject* pOb);
-CArchive& AFXAPI operator>>(CArchive& ar, CObject*& pOb);
-CArchive& AFXAPI operator>>(CArchive& ar, const CObject*& pOb);
 CArchive& AFXAPI operator<<(CArchive& ar, const RECT& rect);
 CArchive& AFXAPI operator<<(CArchive& ar, POINT point);
 CArchive& AFXAPI operator<<(CArchive& ar, SIZE size);

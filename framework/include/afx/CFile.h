@@ -11,9 +11,6 @@
 #include "afx/CObject.h"
 #include "afx/CString.h"
 
-class CAtlTransactionManager;
-struct CFileStatus;
-
 /// A file, closed with the object. Functions throw CFileException unless they say otherwise.
 class CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
@@ -37,15 +34,6 @@ public:
         osRandomAccess = 0x40000,
         osSequentialScan = 0x80000
     };
-    enum Attribute {
-        normal = 0x00,
-        readOnly = 0x01,
-        hidden = 0x02,
-        system = 0x04,
-        volume = 0x08,
-        directory = 0x10,
-        archive = 0x20
-    };
     enum SeekPosition { begin = 0x0, current = 0x1, end = 0x2 };
 
     static const HANDLE hFileNull;
@@ -67,8 +55,6 @@ public:
     /// Closes without reporting errors; may be called when no file is open.
     virtual void Abort();
     virtual void Flush();
-    /// A second object for the same open file, with a handle of its own; the caller deletes it.
-    virtual CFile* Duplicate() const;
 
     /// @return the number of bytes read; less than nCount only at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
@@ -82,8 +68,6 @@ public:
     virtual ULONGLONG GetLength() const;
     /// Cuts off or extends the file, and leaves the position at its new end.
     virtual void SetLength(ULONGLONG dwNewLen);
-    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
-    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
 
     /// Name with extension, without folders.
     virtual CString GetFileName() const;
@@ -92,14 +76,6 @@ public:
     virtual CString GetFileTitle() const;
     /// Names the file; nothing is opened or renamed.
     virtual void SetFilePath(LPCTSTR lpszNewName);
-
-    /// @return nonzero on success. Never throws CFileException.
-    BOOL GetStatus(CFileStatus& rStatus) const;
-    static BOOL PASCAL GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus,
-                                 CAtlTransactionManager* pTM = nullptr);
-    static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName,
-                              CAtlTransactionManager* pTM = nullptr);
-    static void PASCAL Remove(LPCTSTR lpszFileName, CAtlTransactionManager* pTM = nullptr);
 
     void Dump(CDumpContext& dc) const override;
 

@@ -28,18 +28,12 @@ public:
     void Close() override;
     void Abort() override;
     void Flush() override;
-    /// Not supported: throws CNotSupportedException.
-    CFile* Duplicate() const override;
     UINT Read(void* lpBuf, UINT nCount) override;
     void Write(const void* lpBuf, UINT nCount) override;
     ULONGLONG GetPosition() const override;
     ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;
     ULONGLONG GetLength() const override;
     void SetLength(ULONGLONG dwNewLen) override;
-    /// Not supported: throws CNotSupportedException.
-    void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
-    /// Not supported: throws CNotSupportedException.
-    void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void Dump(CDumpContext& dc) const override;
 
 protected:

@@ -13,8 +13,6 @@ public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     /// True when the object's class is pClass or derived from it.
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
-    /// True when the class was declared with DECLARE_SERIAL.
-    BOOL IsSerializable() const;
 
     /// Stores the object to the archive or loads it. The root has nothing to store.
     virtual void Serialize(CArchive& ar);

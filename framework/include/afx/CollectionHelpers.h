@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Helper functions of CArray, CList and CMap. Specialize them for types that the general version
+/// Helper functions of CList and CMap. Specialize them for types that the general version
 /// does not suit.
 #pragma once
 
@@ -24,12 +24,6 @@ inline void requireArgument(bool valid) {
 UINT HashString(LPCSTR text) noexcept;
 UINT HashString(LPCWSTR text) noexcept;
 } // namespace afx
-
-/// Copies elements by assignment.
-template <class TYPE>
-void AFXAPI CopyElements(TYPE* pDest, const TYPE* pSrc, INT_PTR nCount) {
-    std::copy_n(pSrc, nCount, pDest);
-}
 
 /// Compares elements with their operator ==.
 template <class TYPE, class ARG_TYPE>
