@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "menus/MenuRecords.h"
+
+namespace tint {
+namespace {
+
+int CommandOf(const MENUITEMINFOA& item) {
+    return static_cast<int>(item.wID);
+}
+
+template <class Value>
+void RemoveDead(CMap<HMENU, HMENU, Value, Value&>& map) {
+    POSITION position = map.GetStartPosition();
+    while (position != nullptr) {
+        HMENU menu = nullptr;
+        Value value;
+        map.GetNextAssoc(position, menu, value); // moves on before the pair may go
+        if (!::IsMenu(menu))
+            map.RemoveKey(menu);
+    }
+}
+
+} // namespace
+
+MenuRecords& MenuRecords::Get() {
+    static MenuRecords records;
+    return records;
+}
+
+void MenuRecords::SetText(const MENUITEMINFOA& item, CString text) {
+    if (item.hSubMenu != nullptr)
+        textOfSubmenu.SetAt(item.hSubMenu, text);
+    else
+        textOfCommand.SetAt(CommandOf(item), text);
+}
+
+void MenuRecords::SetImage(const MENUITEMINFOA& item, CImgDesc image) {
+    if (item.hSubMenu != nullptr)
+        imageOfSubmenu.SetAt(item.hSubMenu, image);
+    else
+        imageOfCommand.SetAt(CommandOf(item), image);
+}
+
+CString MenuRecords::Text(const MENUITEMINFOA& item) const {
+    CString text;
+    if (item.hSubMenu != nullptr)
+        textOfSubmenu.Lookup(item.hSubMenu, text);
+    else
+        textOfCommand.Lookup(CommandOf(item), text);
+    return text;
+}
+
+CImgDesc MenuRecords::Image(const MENUITEMINFOA& item) const {
+    CImgDesc image;
+    if (item.hSubMenu != nullptr)
+        imageOfSubmenu.Lookup(item.hSubMenu, image);
+    else
+        imageOfCommand.Lookup(CommandOf(item), image);
+    return image;
+}
+
+void MenuRecords::PurgeDeadSubmenus() {
+    RemoveDead(textOfSubmenu);
+    RemoveDead(imageOfSubmenu);
+}
+
+} // namespace tint

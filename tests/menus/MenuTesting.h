@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "automation/Picture.h"
+#include "menus/SkinnedMenus.h"
+
+/// A menu of a test, by one line an item:
+///
+///     "Open\tCtrl+O"   a command; identifiers go up from the first one given
+///     "-"              a separator
+class TestMenu {
+public:
+    static constexpr UINT kFirst = 100;
+
+    explicit TestMenu(const std::vector<std::string>& lines, UINT first = kFirst);
+    ~TestMenu();
+
+    TestMenu(const TestMenu&) = delete;
+    TestMenu& operator=(const TestMenu&) = delete;
+
+    operator HMENU() const { return m_menu; }
+
+    /// Gives the menu to a window or to another menu.
+    HMENU Release();
+
+private:
+    HMENU m_menu;
+};
+
+/// A window with a skinned menu bar: "File" (the lines) and "&Help" (one item).
+class MenuWindow : public CSkinnedMenus<CWnd> {
+public:
+    explicit MenuWindow(const std::vector<std::string>& lines);
+    ~MenuWindow() override;
+
+    HMENU Bar() const { return ::GetMenu(m_hWnd); }
+    HMENU File() const { return ::GetSubMenu(Bar(), 0); }
+
+    std::vector<UINT> m_commands; ///< those that were chosen
+
+    std::function<void()> m_onMenuIdle; ///< called whenever a menu waits for input
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+};
+
+/// Handles messages while `script` runs on a thread of its own, which opens menus by real input.
+/// @return false when it did not end within some seconds
+bool WhileMenusRun(const std::function<void()>& script);
+
+/// For scripts: the `depth`-th visible popup (0: the first opened), once it is at rest; null when none
+/// comes.
+HWND WaitForPopup(int depth = 0);
+bool WaitForNoPopup();
+
+/// The popups that are there, in the order in which they were opened.
+std::vector<HWND> VisiblePopups();

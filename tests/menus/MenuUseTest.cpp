@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// Skinned menus in use: by mouse and keyboard, changed while open, opened over and over.
+#include <gtest/gtest.h>
+
+#include "automation/RealInput.h"
+#include "automation/Steady.h"
+#include "automation/SystemColors.h"
+#include "draw/Hls.h"
+#include "tests/menus/MenuTesting.h"
+#include "tests/support/DialogTemplate.h"
+#include "tests/support/GdiLedger.h"
+#include "tests/support/Pump.h"
+
+namespace {
+
+constexpr UINT kFirst = TestMenu::kFirst;
+
+POINT MiddleOf(HWND owner, HMENU menu, UINT position) {
+    RECT item = {};
+    ::GetMenuItemRect(owner, menu, position, &item);
+    return {(item.left + item.right) / 2, (item.top + item.bottom) / 2};
+}
+
+void Click(POINT point) {
+    automation::MoveMouse(point);
+    automation::PressMouse();
+    automation::ReleaseMouse();
+}
+
+TEST(MenuUse, KeysAndMouseChooseAsEver) {
+    MenuWindow window({"&New\tCtrl+N", "Save && E&xit", "-", "&Disabled"});
+    ::EnableMenuItem(window.File(), kFirst + 3, MF_GRAYED | MF_DISABLED);
+    std::vector<UINT> expected;
+    const auto run = [&](UINT chosen, const std::function<void()>& script) {
+        if (chosen != 0)
+            expected.push_back(chosen);
+        EXPECT_TRUE(WhileMenusRun([&] {
+            script();
+            EXPECT_TRUE(WaitForNoPopup());
+        }));
+        EXPECT_TRUE(PumpUntil([&] { return window.m_commands == expected; })) << chosen;
+    };
+    const auto open = [](char key) {
+        automation::TypeKey(static_cast<WORD>(key), VK_MENU);
+        EXPECT_NE(WaitForPopup(), nullptr);
+    };
+    run(kFirst, [&] { open('F'), automation::TypeKey('N'); });
+    run(kFirst + 1, [&] { open('F'), automation::TypeKey('X'); });
+    run(kFirst + 1, [&] {
+        open('F');
+        automation::TypeKey(VK_DOWN);
+        automation::TypeKey(VK_RETURN);
+    });
+    run(900, [&] {
+        open('F');
+        automation::TypeKey(VK_RIGHT);
+        ::Sleep(100);
+        automation::TypeKey(VK_RETURN);
+    });
+    run(900, [&] { open('H'), automation::TypeKey('A'); });
+    run(kFirst, [&] {
+        Click(MiddleOf(window.m_hWnd, window.Bar(), 0));
+        WaitForPopup();
+        Click(MiddleOf(window.m_hWnd, window.File(), 0));
+    });
+    run(0, [&] {
+        open('F');
+        Click(MiddleOf(window.m_hWnd, window.File(), 3)); // disabled: nothing happens
+        automation::TypeKey(VK_ESCAPE);
+        automation::TypeKey(VK_ESCAPE);
+    });
+}
+
+TEST(MenuUse, ChangesShowWhileAMenuIsOpen) {
+    MenuWindow window({"&One", "&Two"});
+    EXPECT_TRUE(WhileMenusRun([&] {
+        automation::TypeKey('F', VK_MENU);
+        const HWND popup = WaitForPopup();
+        const automation::Picture before = automation::CaptureWindow(popup);
+        ::CheckMenuItem(window.File(), kFirst + 1, MF_CHECKED);
+        const auto repaint = [&] {
+            ::RedrawWindow(popup, nullptr, nullptr, RDW_INVALIDATE);
+            return automation::WaitUntilSteady(popup);
+        };
+        EXPECT_NE(repaint(), before);
+        ::CheckMenuItem(window.File(), kFirst + 1, MF_UNCHECKED);
+        EXPECT_EQ(repaint(), before);
+        {
+            const automation::SystemColorGuard dark(
+                automation::FindColorScheme("high-contrast-dark")->colors);
+            HIGHCONTRASTA contrast = {};
+            contrast.cbSize = sizeof contrast;
+            ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+            const automation::Picture now = repaint();
+            EXPECT_EQ(now.At(0, 5), ::GetSysColor(COLOR_3DDKSHADOW)) << "the frame";
+            EXPECT_EQ(now.At(5, 3), ::GetSysColor(COLOR_HIGHLIGHT)) << "the selected item's";
+        }
+        EXPECT_EQ(repaint().At(5, 3), ::GetSysColor(COLOR_HIGHLIGHT));
+        ::DeleteMenu(window.File(), kFirst, MF_BYCOMMAND);
+        ::AppendMenuA(window.File(), MF_STRING, kFirst + 5, "Added");
+        repaint();
+        automation::TypeKey(VK_ESCAPE);
+        automation::TypeKey(VK_ESCAPE);
+        EXPECT_TRUE(WaitForNoPopup());
+    }));
+    // Opened again, the new item is skinned too.
+    EXPECT_TRUE(WhileMenusRun([&] {
+        automation::TypeKey('F', VK_MENU);
+        WaitForPopup();
+        automation::TypeKey(VK_ESCAPE);
+        automation::TypeKey(VK_ESCAPE);
+        EXPECT_TRUE(WaitForNoPopup());
+    }));
+    EXPECT_NE(::GetMenuState(window.File(), kFirst + 5, MF_BYCOMMAND) & MF_OWNERDRAW, 0U);
+}
+
+TEST(MenuUse, TwoThousandOpeningsLeaveNothingBehind) {
+    MenuWindow window({"&One\tCtrl+O", "-", "&Two"});
+    TestMenu popup({"&Three", "&Four"}, 500);
+    ::AppendMenuA(window.File(), MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Release()), "Sub");
+    window.m_onMenuIdle = [] { ::EndMenu(); };
+    const auto open = [&](int times) {
+        for (int i = 0; i < times; ++i)
+            ::TrackPopupMenu(window.File(), TPM_RETURNCMD, 200, 200, 0, window.m_hWnd, nullptr);
+    };
+    open(5); // what is kept is in place by now
+    const GdiLedger ledger;
+    open(2000);
+    EXPECT_GT(ledger.Made(), 2000) << "they were painted";
+    EXPECT_EQ(ledger.Unreturned(), "");
+    EXPECT_EQ(ledger.Faults(), "");
+    HWND left = nullptr;
+    while ((left = ::FindWindowExA(nullptr, left, "#32768", nullptr)) != nullptr) {
+        EXPECT_EQ(::GetPropA(left, "XPWndProp_OldProc"), nullptr);
+        EXPECT_EQ(CMenuXP::FindMenuWindow(left, true), nullptr);
+    }
+}
+
+TEST(MenuUse, AWindowMayGoWhileItsMenuIsOpen) {
+    for (int i = 0; i < 20; ++i) {
+        MenuWindow window({"&One"});
+        std::vector<HWND> popups;
+        window.m_onMenuIdle = [&] {
+            window.m_onMenuIdle = nullptr;
+            popups = VisiblePopups();
+            window.DestroyWindow();
+            ::EndMenu();
+            ::PostThreadMessageA(::GetCurrentThreadId(), WM_NULL, 0, 0); // the loop looks up
+        };
+        ::TrackPopupMenu(window.File(), TPM_RETURNCMD, 200, 200, 0, window.m_hWnd, nullptr);
+        ASSERT_EQ(popups.size(), 1U);
+        EXPECT_EQ(CMenuXP::FindMenuWindow(popups[0], true), nullptr);
+        EXPECT_EQ(::GetPropA(popups[0], "XPWndProp_OldProc"), nullptr);
+    }
+}
+
+/// A dialog with a menu.
+class MenuDialog : public CSkinnedMenus<CDialog> {
+public:
+    MenuDialog() {
+        CreateIndirect(m_template.Get(), nullptr);
+        const HMENU bar = ::CreateMenu();
+        ::AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(TestMenu({"&One"}).Release()),
+                      "&Dialog");
+        ::SetMenu(m_hWnd, bar);
+    }
+    ~MenuDialog() override { DestroyWindow(); }
+
+private:
+    DialogTemplate m_template{"Dialog", 120, 60, WS_POPUP | WS_VISIBLE | WS_CAPTION};
+};
+
+TEST(MenuUse, ADialogsBarIsSkinnedWhenItIsSet) {
+    const MenuDialog dialog;
+    const HMENU bar = ::GetMenu(dialog.m_hWnd);
+    EXPECT_NE(::GetMenuState(bar, 0, MF_BYPOSITION) & MF_OWNERDRAW, 0U);
+    EXPECT_TRUE(CMenuXP::IsMenuXPEnabled(&dialog));
+}
+
+} // namespace

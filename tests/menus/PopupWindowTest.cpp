@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: MIT
+// The popup-menu window: its frame, its shadow, and what becomes of its window procedure.
+#include <gtest/gtest.h>
+
+#include "automation/RealInput.h"
+#include "automation/Steady.h"
+#include "automation/SystemColors.h"
+#include "draw/Hls.h"
+#include "menus/MenuState.h"
+#include "menus/OsClass.h"
+#include "menus/WndMenuXP.h"
+#include "tests/menus/MenuTesting.h"
+#include "tests/support/Canvas.h"
+#include "tests/support/GdiLedger.h"
+#include "tests/support/Pump.h"
+
+using automation::Picture;
+
+namespace {
+
+constexpr char kOldProc[] = "XPWndProp_OldProc";
+
+COLORREF System(int index) {
+    return ::GetSysColor(index);
+}
+
+COLORREF Face(int luminance) {
+    return AdjustColorLS(System(COLOR_BTNFACE), luminance, 0);
+}
+
+bool IsSubclassed(HWND popup) {
+    return ::GetPropA(popup, kOldProc) != nullptr;
+}
+
+LONG_PTR ProcOf(HWND window) {
+    return ::GetWindowLongPtrA(window, GWLP_WNDPROC);
+}
+
+RECT ScreenRect(HWND window) {
+    RECT rect = {};
+    ::GetWindowRect(window, &rect);
+    return rect;
+}
+
+/// A popup-menu window without a menu, hidden, to send messages to.
+class BarePopup {
+public:
+    BarePopup()
+        : m_window(::CreateWindowExA(0, "#32768", "", WS_POPUP, 50, 60, 100, 80, nullptr, nullptr,
+                                     nullptr, nullptr)) {}
+    ~BarePopup() { ::DestroyWindow(m_window); }
+    BarePopup(const BarePopup&) = delete;
+    BarePopup& operator=(const BarePopup&) = delete;
+
+    operator HWND() const { return m_window; }
+    CWndMenuXP* Object() const { return CMenuXP::FindMenuWindow(m_window, true); }
+
+private:
+    HWND m_window;
+};
+
+/// Pretends another system for the life of the object.
+class PretendOs {
+public:
+    explicit PretendOs(int osClass) { tint::CachedOsClass() = osClass; }
+    ~PretendOs() { tint::CachedOsClass() = 0; }
+};
+
+// --- The hook -----------------------------------------------------------------------------------
+
+TEST(PopupHook, CatchesPopupsOfSkinnedForegroundWindowsOnly) {
+    MenuWindow window({"&One"});
+    {
+        const BarePopup popup;
+        EXPECT_TRUE(IsSubclassed(popup));
+        EXPECT_EQ(ProcOf(popup), reinterpret_cast<LONG_PTR>(&CWndMenuXP::PopupWndProc));
+        const CWndMenuXP* const object = popup.Object();
+        ::SendMessageA(popup, 0x1E2, 0, 0);
+        EXPECT_EQ(popup.Object(), object) << "once only";
+    }
+    EXPECT_TRUE(CMenuXP::IsMenuXPEnabled(&window));
+    CMenuXP::EnableMenuXP(&window, false);
+    EXPECT_FALSE(CMenuXP::IsMenuXPEnabled(&window));
+    const BarePopup popup;
+    EXPECT_FALSE(IsSubclassed(popup));
+    EXPECT_EQ(popup.Object(), nullptr);
+
+    CMenuXP::EnableMenuXP(&window, true);
+    ::SendMessageA(popup, WM_NULL, 0, 0);
+    EXPECT_FALSE(IsSubclassed(popup)) << "only creation and sizing count";
+    ::SendMessageA(popup, 0x1E2, 0, 0);
+    EXPECT_TRUE(IsSubclassed(popup)) << "sized before it is shown again";
+    ::SendMessageA(window, 0x1E2, 0, 0);
+    EXPECT_FALSE(IsSubclassed(window)) << "of another class";
+}
+
+TEST(PopupProcedure, GoesWithTheWindowOrItsHiding) {
+    const MenuWindow window({"&One"});
+    const BarePopup popup;
+    const LONG_PTR old = reinterpret_cast<LONG_PTR>(::GetPropA(popup, kOldProc));
+    ::SendMessageA(popup, WM_SHOWWINDOW, TRUE, 0);
+    EXPECT_TRUE(IsSubclassed(popup));
+    ::SendMessageA(popup, WM_SHOWWINDOW, FALSE, 0);
+    EXPECT_FALSE(IsSubclassed(popup));
+    EXPECT_EQ(ProcOf(popup), old);
+    EXPECT_EQ(popup.Object(), nullptr);
+
+    HWND gone = nullptr;
+    {
+        const BarePopup other;
+        gone = other;
+        EXPECT_NE(other.Object(), nullptr);
+    }
+    EXPECT_EQ(CMenuXP::FindMenuWindow(gone, true), nullptr);
+    EXPECT_EQ(CWndMenuXP::PopupWndProc(popup, WM_NULL, 0, 0), 0) << "with nothing to call";
+}
+
+WNDPROC g_below = nullptr;
+int g_seen = 0;
+
+LRESULT CALLBACK Stranger(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    ++g_seen;
+    return ::CallWindowProcA(g_below, window, message, wParam, lParam);
+}
+
+TEST(PopupProcedure, LeavesAStrangerInTheChainAlone) {
+    const MenuWindow window({"&One"});
+    const BarePopup popup;
+    const auto ours = ProcOf(popup);
+    g_below = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(popup, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Stranger)));
+    CMenuXP::DestroyMenuWindow(popup);
+    g_seen = 0;
+    ::SendMessageA(popup, WM_NULL, 0, 0);
+    EXPECT_EQ(g_seen, 1) << "still there";
+    ::SetWindowLongPtrA(popup, GWLP_WNDPROC, ours); // it leaves, and puts back what it knew
+    ::SendMessageA(popup, WM_NCPAINT, 1, 0);
+    ::SendMessageA(popup, 0x1E2, 0, 0);
+    EXPECT_NE(popup.Object(), nullptr) << "caught again";
+    CMenuXP::DestroyMenuWindow(popup);
+    EXPECT_FALSE(IsSubclassed(popup));
+}
+
+// Ends the hook of its process, so it is run in one of its own by the test below.
+TEST(PopupHook, DISABLED_IsLostAfterTheLastUninstall) {
+    const MenuWindow window({"&One"});
+    const BarePopup popup;
+    const LONG_PTR old = reinterpret_cast<LONG_PTR>(::GetPropA(popup, kOldProc));
+    ASSERT_NE(old, 0);
+    EXPECT_EQ(CMenuXP::InstallHook(), 3U) << "the environment's and the window's before it";
+    CMenuXP::UninstallHook();
+    CMenuXP::UninstallHook();
+    EXPECT_TRUE(IsSubclassed(popup)) << "one install is left";
+    CMenuXP::UninstallHook();
+    EXPECT_EQ(ProcOf(popup), old);
+    EXPECT_FALSE(IsSubclassed(popup));
+    EXPECT_EQ(popup.Object(), nullptr);
+    CMenuXP::UninstallHook(); // without an install
+
+    EXPECT_EQ(CMenuXP::InstallHook(), 1U) << "only counted";
+    const BarePopup later;
+    EXPECT_FALSE(IsSubclassed(later));
+}
+
+TEST(PopupHook, EndsWithTheLastUninstall) {
+    char program[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, program, MAX_PATH);
+    std::string command = '"' + std::string(program) +
+                          "\" --gtest_also_run_disabled_tests --gtest_filter=*DISABLED_IsLost*";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    ASSERT_TRUE(::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                 nullptr, &startup, &process));
+    EXPECT_EQ(::WaitForSingleObject(process.hProcess, 30000), DWORD{WAIT_OBJECT_0});
+    DWORD exitCode = 1;
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
+    EXPECT_EQ(exitCode, 0U);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+// --- Size and system ----------------------------------------------------------------------------
+
+TEST(PopupSize, GrowsByTheShadowAndMovesUp) {
+    const MenuWindow window({"&One"});
+    for (const int osClass : {5, 8, 7}) {
+        const PretendOs pretend(osClass);
+        const BarePopup popup;
+        const int shadow = osClass < 8 ? 4 : 0;
+        WINDOWPOS position = {popup, nullptr, 30, 40, 100, 50, SWP_NOZORDER};
+        ::SendMessageA(popup, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+        EXPECT_EQ(position.cx, 100 + shadow);
+        EXPECT_EQ(position.cy, 50 + shadow);
+        EXPECT_EQ(position.x, 30);
+        EXPECT_EQ(position.y, 39);
+
+        RECT ours = {10, 20, 110, 120};
+        RECT system = ours;
+        ::SendMessageA(popup, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&ours));
+        ::CallWindowProcA(reinterpret_cast<WNDPROC>(::GetPropA(popup, kOldProc)), popup,
+                          WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&system));
+        EXPECT_EQ(ours.left, system.left);
+        EXPECT_EQ(ours.top, system.top);
+        EXPECT_EQ(ours.right, system.right - shadow);
+        EXPECT_EQ(ours.bottom, system.bottom - shadow);
+    }
+}
+
+TEST(OsClass, IsTheFamilyOfTheVersion) {
+    struct Case {
+        DWORD platform, major, minor;
+        int osClass;
+    };
+    for (const Case& c : {Case{0, 3, 10, 1}, Case{1, 4, 0, 2}, Case{1, 4, 10, 3},
+                          Case{1, 4, 90, 4}, Case{1, 5, 10, 2}, Case{2, 3, 51, 5},
+                          Case{2, 4, 0, 6}, Case{2, 5, 0, 7}, Case{2, 5, 1, 8}, Case{2, 5, 2, 5},
+                          Case{2, 6, 1, 5}, Case{2, 10, 0, 5}, Case{3, 1, 0, 2}}) {
+        OSVERSIONINFOA version = {};
+        version.dwPlatformId = c.platform;
+        version.dwMajorVersion = c.major;
+        version.dwMinorVersion = c.minor;
+        EXPECT_EQ(tint::OsClassOf(version), c.osClass) << c.platform << ' ' << c.major;
+    }
+    EXPECT_EQ(CWndMenuXP::GetOSClass(), 5);
+}
+
+// --- The frame ----------------------------------------------------------------------------------
+
+COLORREF Shaded(COLORREF color, int row, int column) {
+    const int k = row == 0   ? 0
+                  : row == 1 ? (column >= 2 ? 1 : 0)
+                  : row == 2 ? std::min(column, 2)
+                             : column;
+    const int p = (3 - k) * 5 + 78;
+    return RGB(GetRValue(color) * p / 100, GetGValue(color) * p / 100, GetBValue(color) * p / 100);
+}
+
+/// The frame and shadow of a popup by the rule, over what `picture` shows where it lies.
+void PutFrame(Picture& picture, int shadow) {
+    const int right = picture.width - shadow;
+    const int bottom = picture.height - shadow;
+    const auto put = [&](int x, int y, COLORREF color) {
+        picture.pixels[static_cast<std::size_t>(y) * picture.width + x] = color;
+    };
+    for (int line = 0; line < 3; ++line) {
+        const COLORREF color = line == 0 ? System(COLOR_3DDKSHADOW) : Face(75);
+        for (int x = line; x < right - line; ++x) {
+            put(x, line, color);
+            put(x, bottom - 1 - line, color);
+        }
+        for (int y = line; y < bottom - line; ++y) {
+            put(line, y, color);
+            put(right - 1 - line, y, color);
+        }
+    }
+    if (shadow == 0)
+        return;
+    const int w = picture.width;
+    const int h = picture.height;
+    for (int i = 0; i < w - 1; ++i)
+        for (int j = i >= 2 ? std::max(i - w + 7, 0) : 2 - i; j < (i > w - 8 ? w - 4 - i : 4); ++j)
+            put(i + 4, h - 1 - j, Shaded(picture.At(i + 4, h - 1 - j), i, j));
+    for (int c = 0; c < 4; ++c)
+        for (int j = c < 2 ? 2 - c : 0; j < h - c - 4 - (c < 1 ? 2 : 1); ++j)
+            put(w - 1 - c, j + 4, Shaded(picture.At(w - 1 - c, j + 4), j, c));
+}
+
+void PutLine(Picture& picture, int from, int to, COLORREF color) {
+    for (int x = std::max(from, 0); x < to; ++x)
+        picture.pixels[x] = color;
+}
+
+/// Where two pictures differ on the three lines of the frame and in the shadow.
+std::string FrameDifference(const Picture& have, const Picture& want, int shadow) {
+    if (have.width != want.width || have.height != want.height)
+        return "size";
+    for (int y = 0; y < have.height; ++y)
+        for (int x = 0; x < have.width; ++x) {
+            const bool inside = x >= 3 && y >= 3 && x < have.width - shadow - 3 &&
+                                y < have.height - shadow - 3;
+            if (!inside && have.At(x, y) != want.At(x, y))
+                return std::to_string(x) + ", " + std::to_string(y);
+        }
+    return "";
+}
+
+Picture Crop(const Picture& screen, const RECT& rect) {
+    Picture part{rect.right - rect.left, rect.bottom - rect.top, {}};
+    for (LONG y = rect.top; y < rect.bottom; ++y)
+        for (LONG x = rect.left; x < rect.right; ++x)
+            part.pixels.push_back(screen.At(x, y));
+    return part;
+}
+
+TEST(PopupFrame, IsFlatWithAShadowAndOpensToTheBarItem) {
+    for (const int osClass : {5, 8}) {
+        const PretendOs pretend(osClass);
+        const int shadow = osClass < 8 ? 4 : 0;
+        MenuWindow window({"&New\tCtrl+N", "-", "&Open"});
+        PumpFor();
+        const Picture before = automation::CaptureScreen({0, 0, 500, 400});
+        EXPECT_TRUE(WhileMenusRun([&] {
+            automation::TypeKey('F', VK_MENU);
+            const HWND popup = WaitForPopup();
+            const Picture have = automation::CaptureWindow(popup);
+            const RECT rect = ScreenRect(popup);
+            const RECT item = tint::GetMenuState().openBarItem;
+            EXPECT_EQ(item.bottom, rect.top + 1) << "it hangs from the bar";
+            Picture want = Crop(before, rect);
+            PutFrame(want, shadow);
+            PutLine(want, item.left - rect.left - 3,
+                    item.left - rect.left + (item.right - item.left) - 5, Face(20));
+            EXPECT_EQ(FrameDifference(have, want, shadow), "") << osClass;
+            automation::TypeKey(VK_ESCAPE);
+            automation::TypeKey(VK_ESCAPE);
+            EXPECT_TRUE(WaitForNoPopup());
+        }));
+        EXPECT_TRUE(::IsRectEmpty(&tint::GetMenuState().openBarItem)) << "the bar is closed";
+    }
+}
+
+TEST(PopupFrame, IsClosedAwayFromTheBarAndPaintedOncePerSize) {
+    const MenuWindow window({"&One"});
+    const BarePopup popup;
+    ::SetWindowPos(popup, HWND_TOPMOST, 250, 250, 100, 80, SWP_SHOWWINDOW | SWP_NOACTIVATE);
+    const HDC dc = ::GetWindowDC(popup);
+    for (int x = 0; x < 100; ++x)
+        ASSERT_EQ(::GetPixel(dc, x, 0), System(COLOR_3DDKSHADOW)) << x;
+
+    ::SetPixel(dc, 0, 0, RGB(1, 2, 3));
+    ::SendMessageA(popup, WM_NCPAINT, 1, 0);
+    EXPECT_EQ(::GetPixel(dc, 0, 0), RGB(1, 2, 3)) << "the same rectangle is not painted again";
+    ::SetWindowPos(popup, nullptr, 0, 0, 120, 80, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SendMessageA(popup, WM_NCPAINT, 1, 0);
+    EXPECT_EQ(::GetPixel(dc, 0, 0), System(COLOR_3DDKSHADOW));
+    ::ReleaseDC(popup, dc);
+}
+
+TEST(PopupFrame, PrintsOverTheBackgroundTakenBefore) {
+    for (const int osClass : {5, 8}) {
+        const PretendOs pretend(osClass);
+        const int shadow = osClass < 8 ? 4 : 0;
+        const MenuWindow window({"&One"});
+        const BarePopup popup;
+        ::SetWindowPos(popup, nullptr, 150, 150, 100, 80, SWP_NOZORDER | SWP_NOACTIVATE);
+        const RECT rect = ScreenRect(popup);
+        const Picture under = automation::CaptureScreen(rect);
+        const Canvas canvas(under.width, under.height);
+        const HDC scratch = ::GetDC(nullptr);
+        ::SendMessageA(popup, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.dc()), 0);
+        ::ReleaseDC(nullptr, scratch);
+        tint::GetMenuState().openBarItem = {rect.left + 10, 0, rect.left + 40, rect.top + 1};
+        ::SendMessageA(popup, WM_PRINT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_NONCLIENT);
+        Picture want = under;
+        PutFrame(want, shadow); // not joined: no item was painted meanwhile
+        EXPECT_EQ(FrameDifference(canvas.Snapshot(), want, shadow), "") << osClass;
+        ::SetRectEmpty(&tint::GetMenuState().openBarItem);
+    }
+}
+
+} // namespace
