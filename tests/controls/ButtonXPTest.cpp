@@ -260,7 +260,7 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     tint::EnableSkin(subject.m_hWnd, true);
     EXPECT_FALSE(subject.GetUpdateRect(nullptr)) << "repainted at once";
     EXPECT_EQ(subject.GetStyle(), skinned);
-    EXPECT_TRUE(ComesToShow(dialog, Focused(Hot()))) << "the mouse is still over it";
+    EXPECT_TRUE(ComesToShow(dialog, Hot().Focused())) << "the mouse is still over it";
     dialog.GotoDlgCtrl(dialog.GetDlgItem(kOther));
     ButtonDialog::ParkMouse();
     EXPECT_TRUE(ComesToShow(dialog, Resting()));
