@@ -4,6 +4,8 @@
 #include <afxwin.h>
 #include <afxext.h>
 
+#include <vector>
+
 /// A status bar whose panes have flat frames, one pixel wide, in the colour of the button shadow.
 ///
 /// Use it in place of CStatusBar; nothing else changes.
@@ -16,5 +18,12 @@ public:
 
 protected:
     afx_msg void OnPaint();
+    afx_msg LRESULT OnSkinSwitch(WPARAM enabled, LPARAM);
     DECLARE_MESSAGE_MAP()
+
+private:
+    void ApplyLook(bool skinned);
+    void PaintFrames();
+
+    std::vector<UINT> m_ownStyles; ///< of the panes, as the base class set them
 };

@@ -28,6 +28,10 @@ COLORREF SilhouetteColor(bool hot, bool open) {
 
 } // namespace
 
+COLORREF ToolBarPainter::BackgroundColor() {
+    return SystemColor(COLOR_BTNFACE, 20, 0);
+}
+
 ToolBarPainter::ToolBarPainter(CDC& dc, const CWnd& toolBar, CSize imageSize)
     : m_dc(dc), m_toolBar(toolBar.m_hWnd), m_imageSize(imageSize) {
     m_images = reinterpret_cast<HIMAGELIST>(Ask(TB_GETIMAGELIST));
@@ -40,8 +44,8 @@ void ToolBarPainter::Paint() {
     CRect clip;
     m_dc.GetClipBox(clip);
     m_dc.SetBkMode(TRANSPARENT);
-    CDCObjectSaver font(m_dc, DEFAULT_GUI_FONT);
-    m_dc.FillSolidRect(clip, SystemColor(COLOR_BTNFACE, 20, 0));
+    const CDCObjectSaver font(m_dc, DEFAULT_GUI_FONT);
+    m_dc.FillSolidRect(clip, BackgroundColor());
 
     const int count = static_cast<int>(Ask(TB_BUTTONCOUNT));
     const int hot = static_cast<int>(Ask(TB_GETHOTITEM));
@@ -86,10 +90,10 @@ void ToolBarPainter::PaintItem(Item& item, bool underMouse) {
     }
 }
 
-/// Three closed sides: at the bottom the open menu joins the button.
+/// The outline of the menu that hangs below; the line on the left goes on to it.
 void ToolBarPainter::PaintOpenOutline(const CRect& rect) {
     CPenSelector pen(m_dc, ::GetSysColor(COLOR_3DDKSHADOW));
-    const POINT outline[] = {{rect.left, rect.bottom},
+    POINT outline[] = {{rect.left, rect.bottom},
                              {rect.left, rect.top},
                              {rect.right - 1, rect.top},
                              {rect.right - 1, rect.bottom - 1},
@@ -160,7 +164,8 @@ void ToolBarPainter::PaintSilhouette(const Item& item) {
     if (icon == nullptr)
         return;
     const int offset = item.hot ? 4 : 3;
-    CBrush brush(SilhouetteColor(item.hot, item.IsOpen()));
+    CBrush brush;
+    brush.CreateSolidBrush(SilhouetteColor(item.hot, item.IsOpen()));
     m_dc.DrawState(CPoint(item.rect.left + offset, item.rect.top + offset), m_imageSize, icon,
                    DSS_MONO, static_cast<HBRUSH>(brush));
     ::DestroyIcon(icon);

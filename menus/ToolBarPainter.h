@@ -17,6 +17,9 @@ public:
 
     void Paint();
 
+    /// What the buttons lie on.
+    static COLORREF BackgroundColor();
+
 private:
     struct Item {
         TBBUTTON button = {};

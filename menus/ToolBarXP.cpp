@@ -2,6 +2,7 @@
 #include "menus/ToolBarXP.h"
 
 #include "draw/BufferDC.h"
+#include "draw/Skin.h"
 #include "menus/ToolBarPainter.h"
 
 namespace {
@@ -16,9 +17,17 @@ bool IsPlaceholder(const TBBUTTON& button) {
 IMPLEMENT_DYNCREATE(CToolBarXP, CToolBar)
 
 BEGIN_MESSAGE_MAP(CToolBarXP, CToolBar)
+    ON_WM_ERASEBKGND()
+    ON_WM_MOUSELEAVE()
+    ON_WM_MOUSEMOVE()
     ON_WM_PAINT()
     ON_NOTIFY_REFLECT(TBN_DROPDOWN, &CToolBarXP::OnDropDown)
 END_MESSAGE_MAP()
+
+void CToolBarXP::PreSubclassWindow() {
+    CToolBar::PreSubclassWindow();
+    m_hover.Attach(m_hWnd, CMouseHoverTracker::kRepaint);
+}
 
 BOOL CToolBarXP::LoadToolBar(UINT resourceId) {
     return CToolBar::LoadToolBar(resourceId) && FinishLoading();
@@ -48,6 +57,7 @@ BOOL CToolBarXP::InsertControl(int index, const CWnd& control) {
     placeholder.iString = -1;
     if (!SendMessage(TB_INSERTBUTTONA, index, reinterpret_cast<LPARAM>(&placeholder)))
         return FALSE;
+    ModifyStyle(0, WS_CLIPCHILDREN); // a paint of the bar leaves the control alone
     m_bDelayedButtonLayout = TRUE;
     return TRUE;
 }
@@ -62,13 +72,18 @@ void CToolBarXP::TrackDropDownMenu(UINT commandId, HMENU menu) {
     ClientToScreen(&around.rcExclude);
 
     const HWND toolBar = m_hWnd;
-    const CWnd* frame = GetParentFrame();
     SetOpen(commandId, true);
-    ::TrackPopupMenuEx(menu, 0, around.rcExclude.left, around.rcExclude.bottom,
-                       frame != nullptr ? frame->m_hWnd : ::GetAncestor(m_hWnd, GA_ROOT), &around);
+    ::TrackPopupMenuEx(menu, 0, around.rcExclude.left, around.rcExclude.bottom, FrameOfCommands(),
+                       &around);
     // The menu ran a message loop, in which anything may have happened to the toolbar.
     if (::IsWindow(toolBar) && CWnd::FromHandlePermanent(toolBar) == this)
         SetOpen(commandId, false);
+}
+
+HWND CToolBarXP::FrameOfCommands() const {
+    // Around a bar that floats there is a small frame, which has no commands of its own.
+    const CWnd* const frame = m_pDockSite != nullptr ? m_pDockSite : GetParentFrame();
+    return frame != nullptr ? frame->m_hWnd : ::GetAncestor(m_hWnd, GA_ROOT);
 }
 
 void CToolBarXP::SetOpen(UINT commandId, bool open) {
@@ -142,9 +157,45 @@ void CToolBarXP::PlaceControl(int index, const TBBUTTON& placeholder, CWnd& cont
     control.SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), flags);
 }
 
+BOOL CToolBarXP::OnEraseBkgnd(CDC* dc) {
+    if (!tint::IsSkinEnabled(m_hWnd))
+        return static_cast<BOOL>(Default());
+    const int state = dc->SaveDC();
+    if (::WindowFromDC(*dc) == m_hWnd) {
+        // The base class erases the borders by this message too, on a context of the whole window.  The
+        // client area is left out: erased before it is painted, it would flicker.
+        CRect client;
+        GetClientRect(client);
+        ClientToScreen(client);
+        CPoint origin;
+        ::GetDCOrgEx(*dc, &origin);
+        client.OffsetRect(-origin);
+        dc->ExcludeClipRect(client);
+    }
+    CRect clip;
+    dc->GetClipBox(clip);
+    dc->FillSolidRect(clip, tint::ToolBarPainter::BackgroundColor());
+    dc->RestoreDC(state);
+    return TRUE;
+}
+
+void CToolBarXP::OnMouseMove(UINT flags, CPoint point) {
+    m_hover.OnMouseMove();
+    CToolBar::OnMouseMove(flags, point);
+}
+
+void CToolBarXP::OnMouseLeave() {
+    m_hover.OnMouseLeave();
+    Default(); // the control has a hot button to forget
+}
+
 void CToolBarXP::OnPaint() {
     if (m_bDelayedButtonLayout)
         Layout();
+    if (!tint::IsSkinEnabled(m_hWnd)) {
+        Default();
+        return;
+    }
     CPaintDC target(this);
     CBufferDC dc(target, nullptr);
     tint::ToolBarPainter(dc, *this, m_sizeImage).Paint();

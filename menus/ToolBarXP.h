@@ -4,6 +4,8 @@
 #include <afxwin.h>
 #include <afxext.h>
 
+#include "draw/MouseHoverTracker.h"
+
 /// A docking toolbar in the flat look: highlight-framed hot and checked buttons, images lifted over
 /// their silhouette when hot, split drop-down buttons, and controls that stand among the buttons.
 ///
@@ -40,13 +42,15 @@ public:
     BOOL InsertControl(int index, const CWnd& control);
 
     /// Shows a menu below a button, which looks open meanwhile; returns when the menu has closed.
-    /// Its commands go to the parent frame.
+    /// Its commands go to the frame window that the bar belongs to, also while the bar floats.
     /// @param commandId  the button's command; without such a button nothing happens
     void TrackDropDownMenu(UINT commandId, HMENU menu);
 
     CSize CalcDynamicLayout(int length, DWORD mode) override;
 
 protected:
+    void PreSubclassWindow() override;
+
     /// Hides the placeholders from the base class while it lays out a vertical bar.
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -55,6 +59,9 @@ protected:
     /// @param result  TBDDRET_DEFAULT when the owner handled it, else TBDDRET_TREATPRESSED: the button
     ///                is then pressed as a whole
     afx_msg void OnDropDown(NMHDR* notification, LRESULT* result);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 
@@ -62,9 +69,11 @@ private:
     enum class LayoutMode : BYTE { kNone, kVertical, kOther };
 
     BOOL FinishLoading();
+    HWND FrameOfCommands() const;
     void SetOpen(UINT commandId, bool open);
     void PlaceControls(bool vertical);
     void PlaceControl(int index, const TBBUTTON& placeholder, CWnd& control, bool vertical);
 
+    CMouseHoverTracker m_hover;
     LayoutMode m_layoutMode = LayoutMode::kNone; ///< other than kNone during one CalcDynamicLayout
 };

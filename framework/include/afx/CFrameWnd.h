@@ -5,7 +5,7 @@
 
 #include "afx/CWnd.h"
 #include "afx/ControlBarStyles.h"
-#include "afx/FixedCollections.h"
+#include "afx/CPtrList.h"
 #include "afxres.h"
 
 #include <vector>
