@@ -5,3 +5,6 @@
 
 #include <afxwin.h>
 #include <commctrl.h>
+
+#include "afx/CStatusBarCtrl.h"
+#include "afx/CToolBarCtrl.h"

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 /// @file
-/// Extensions: bitmap buttons.
+/// Extensions: bitmap buttons and control bars.
 #pragma once
 
 #include <afxwin.h>
 
 #include "afx/CBitmapButton.h"
+#include "afx/CControlBar.h"
+#include "afx/CStatusBar.h"
+#include "afx/CToolBar.h"

@@ -5,6 +5,8 @@
 
 #include <afxwin.h>
 
+#include "afx/CDockBar.h"
+
 /// Answered with 1 by every window with a permanent object.
 #define WM_QUERYAFXWNDPROC 0x0360
 /// From a frame to its children: take your part of the client area. lParam: AFX_SIZEPARENTPARAMS*.
@@ -29,3 +31,15 @@
 #define WM_FLOATSTATUS 0x036D
 /// To a top-level window when one of its group is activated. wParam: WA_ state.
 #define WM_ACTIVATETOPLEVEL 0x036E
+
+/// What WM_SIZEPARENT carries.
+struct AFX_SIZEPARENTPARAMS {
+    /// Collects the moves; null when nothing is to be moved.
+    HDWP hDWP;
+    /// The part of the parent's client area that is left.
+    RECT rect;
+    /// The bars' size so far: their sum across, the largest along.
+    SIZE sizeTotal;
+    /// Bars fill the side they lie at.
+    BOOL bStretch;
+};

@@ -31,6 +31,12 @@
 #include "afx/CWinThread.h"
 #include "afx/CWinApp.h"
 
+// Frame windows.
+#include "afx/CFrameWnd.h"
+#include "afx/CMiniFrameWnd.h"
+#include "afx/CMDIFrameWnd.h"
+#include "afx/CMDIChildWnd.h"
+
 // Controls.
 #include "afx/CStatic.h"
 #include "afx/CButton.h"

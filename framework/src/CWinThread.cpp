@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <afxwin.h>
 
+#include <algorithm>
 #include <memory>
 #include <process.h>
 
@@ -287,11 +288,26 @@ void UpdateCommandItems(CWnd* wnd) {
     wnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
 }
 
+/// Whether the frame, if it still exists, is not updated together with the main window.
+bool IsOtherTopFrame(CFrameWnd* frame, const CWnd* main) {
+    const std::vector<CFrameWnd*>& frames = afx::CurrentThread().frames;
+    const bool exists = std::find(frames.begin(), frames.end(), frame) != frames.end();
+    return exists && frame != main && frame->m_hWnd != nullptr &&
+           (frame->GetStyle() & WS_CHILD) == 0;
+}
+
 } // namespace
 
 BOOL CWinThread::OnIdle(LONG lCount) {
     if (lCount <= 0) {
         UpdateCommandItems(m_pMainWnd);
+        // A copy: a handler may create and end frames.
+        const std::vector<CFrameWnd*> frames = afx::CurrentThread().frames;
+        for (CFrameWnd* const frame : frames) {
+            if (IsOtherTopFrame(frame, m_pMainWnd)) {
+                UpdateCommandItems(frame);
+            }
+        }
         return TRUE;
     }
     // The second time nothing is left that a handler could still hold on to.

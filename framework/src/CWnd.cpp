@@ -44,8 +44,8 @@ CListBox* afx::ListBoxFromHandle(HWND hWnd) {
 }
 
 CWnd::CWnd()
-    : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_modal(false),
-      m_modalResult(0) {}
+    : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_toolTips(false),
+      m_modal(false), m_modalResult(0) {}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {

@@ -111,7 +111,10 @@ void CWnd::EndModalState() {
     ::EnableWindow(m_hWnd, TRUE);
 }
 
-BOOL CWnd::PreTranslateMessage(MSG*) {
+BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    if (m_toolTips) {
+        FilterToolTipMessage(pMsg);
+    }
     return FALSE;
 }
 

@@ -283,7 +283,3 @@ int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
 void CWnd::NotifyWinEvent(DWORD event, LONG idObjectType, LONG idObject) {
     ::NotifyWinEvent(event, m_hWnd, idObjectType, idObject);
 }
-
-INT_PTR CWnd::OnToolHitTest(CPoint, TOOLINFO*) const {
-    return -1;
-}

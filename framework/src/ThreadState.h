@@ -3,6 +3,9 @@
 
 #include "afx/Platform.h"
 
+#include <vector>
+
+class CFrameWnd;
 class CWinThread;
 
 namespace afx {
@@ -22,6 +25,13 @@ struct ThreadState {
     HWND exchanging = nullptr;
     /// The menu that was opened last.
     HMENU openMenu = nullptr;
+    /// All frame window objects, with or without a window.
+    std::vector<CFrameWnd*> frames;
+    /// The tool tip control of all windows; null until it is first needed.
+    HWND toolTip = nullptr;
+    /// The window whose tool the tool tip is for, and that tool; -1 for none.
+    HWND toolTipOver = nullptr;
+    INT_PTR toolTipTool = -1;
 };
 
 /// The state of the calling thread; made at the first call, freed when the thread ends.

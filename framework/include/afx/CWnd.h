@@ -154,6 +154,18 @@ public:
     int SetWindowRgn(HRGN hRgn, BOOL bRedraw);
     int GetWindowRgn(HRGN hRgn) const;
     void BringWindowToTop();
+    /// What RepositionBars() is to do.
+    enum RepositionFlags { reposDefault = 0, reposQuery = 1, reposExtra = 2 };
+    /// Lets the control bars among the children take their parts of the client area.
+    /// @param nIDFirst, nIDLast  identifiers of the children that take part.
+    /// @param nIDLeftOver  the child that fills what is left.
+    /// @param nFlag        reposQuery: moves nothing, `lpRectParam` receives what would be left;
+    ///                     reposExtra: `lpRectParam` is taken off the child that fills the rest.
+    /// @param lpRectClient the area to lay out; null for the client area.
+    /// @param bStretch     FALSE with reposQuery: receives the size of the bars instead.
+    void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag = reposDefault,
+                        LPRECT lpRectParam = NULL, LPCRECT lpRectClient = NULL,
+                        BOOL bStretch = TRUE);
     UINT ArrangeIconicWindows();
     /// Centres the window on its parent, its owner or the given window, inside the monitor's work
     /// area (a child: inside its parent).
@@ -343,7 +355,14 @@ public:
 
     // ---- Tool tips ------------------------------------------------------------------------------
 
-    /// Finds the tool under a point. @return its identifier, or -1.
+    /// Shows tool tips over the tools of the window. Their text is asked for with TTN_NEEDTEXT,
+    /// which a frame window answers from the string of the tool's identifier.
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    /// Takes the tool tip away. @param bKeys also the text in the status bar.
+    static void PASCAL CancelToolTips(BOOL bKeys = FALSE);
+    /// Shows and hides the tool tip by the messages of mouse and keyboard.
+    void FilterToolTipMessage(MSG* pMsg);
+    /// Finds the tool under a point, here the child window. @return its identifier, or -1.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
 
 protected:
@@ -554,12 +573,15 @@ private:
 
     /// Null unless the window is a frame window, which returns itself.
     virtual CFrameWnd* AsFrameWnd() { return nullptr; }
+    /// Called when the mouse comes to another tool. @param tool its identifier; -1 for none.
+    virtual void ShowStatusTextOfTool(INT_PTR tool) { UNUSED_ALWAYS(tool); }
     BOOL CreateHandle(CREATESTRUCT& cs);
     void ForgetAsMainWindow();
 
     /// The procedure of the window before it was subclassed; null for the framework's own.
     WNDPROC m_superProc;
     HWND m_ownerHandle;
+    bool m_toolTips;
     /// A modal loop is to go on.
     bool m_modal;
     int m_modalResult;
