@@ -5,6 +5,8 @@
 #include <string>
 
 #include "benchmarks/ButtonBench.h"
+#include "benchmarks/ComboBench.h"
+#include "benchmarks/GlyphBench.h"
 #include "benchmarks/Report.h"
 
 namespace {
@@ -22,7 +24,11 @@ int main(int argc, char** argv) {
     if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), SW_SHOWNORMAL))
         return 1;
 
-    const std::vector<Row> rows = BenchButton();
+    std::vector<Row> rows = BenchButton();
+    for (const auto& bench : {BenchGlyph, BenchCombo}) {
+        const std::vector<Row> more = bench();
+        rows.insert(rows.end(), more.begin(), more.end());
+    }
     std::fputs((json ? FormatJson(rows) : FormatTable(rows)).c_str(), stdout);
     return 0;
 }

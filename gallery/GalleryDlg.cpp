@@ -2,6 +2,8 @@
 #include "gallery/GalleryDlg.h"
 
 #include "gallery/ButtonsPage.h"
+#include "gallery/CombosPage.h"
+#include "gallery/GlyphsPage.h"
 #include "gallery/PicturesPage.h"
 #include "gallery/resource.h"
 
@@ -11,6 +13,8 @@ END_MESSAGE_MAP()
 
 CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
+    m_pages.push_back(std::make_unique<CGlyphsPage>());
+    m_pages.push_back(std::make_unique<CCombosPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
 }
 

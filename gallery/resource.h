@@ -7,6 +7,8 @@
 #define IDD_GALLERY 101
 #define IDD_BUTTONS 102
 #define IDD_PICTURES 103
+#define IDD_GLYPHS 104
+#define IDD_COMBOS 105
 
 // The gallery window
 #define IDC_SCENES 1001
@@ -34,3 +36,15 @@
 #define IDC_UNREADABLE 1212
 #define IDC_PASTED 1213
 #define IDC_PASTE 1214
+
+// The page "Glyphs"
+#define IDC_GLYPHS_FLAT 1301
+#define IDC_GLYPHS_CLASSIC 1302
+#define IDC_GLYPH_TABLE 1303
+
+// The page "Combo boxes"; the three skinned ones and the system's three have consecutive identifiers
+#define IDC_COMBO_SUBJECT 1401
+#define IDC_COMBO_STAGE 1402
+#define IDC_COMBO_DISABLE 1403
+#define IDC_COMBO_FIRST 1411
+#define IDC_SYSTEM_COMBO_FIRST 1421

@@ -71,6 +71,10 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     ChooseScene("Buttons");
     const std::string suffix = isDefault ? "" : "-" + scheme;
     TourButtons(*this, suffix);
+    ChooseScene("Glyphs");
+    TourGlyphs(*this, suffix);
+    ChooseScene("Combo boxes");
+    TourCombos(*this, suffix);
     ChooseScene("Pictures");
     TourPictures(*this, suffix);
 

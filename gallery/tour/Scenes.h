@@ -11,3 +11,9 @@ void TourButtons(PictureTour& tour, const std::string& suffix);
 
 /// The pictures, with one pasted from the clipboard.
 void TourPictures(PictureTour& tour, const std::string& suffix);
+
+/// The glyph buttons: every kind, look and state.
+void TourGlyphs(PictureTour& tour, const std::string& suffix);
+
+/// The combo box in each of its states.
+void TourCombos(PictureTour& tour, const std::string& suffix);
