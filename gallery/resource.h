@@ -34,3 +34,29 @@
 #define IDC_UNREADABLE 1212
 #define IDC_PASTED 1213
 #define IDC_PASTE 1214
+
+// The page "Menus" and the window it opens; commands in the order of the menus
+#define IDD_MENUS 110
+#define IDR_MENUS_FRAME 300
+#define IDR_MENUS_CONTEXT 301
+#define IDB_MENUS_IMAGES 310
+#define IDC_MENUS_OPEN 1800
+#define IDC_MENUS_AREA 1801
+#define IDC_MENUS_CHOSEN 1802
+#define IDM_PROJECT_NEW 32800
+#define IDM_PROJECT_OPEN 32801
+#define IDM_PROJECT_SAVE 32802
+#define IDM_SHOW_GRID 32803
+#define IDM_SNAP 32804
+#define IDM_METRIC 32805
+#define IDM_INCHES 32806
+#define IDM_RECENT_FIRST 32807
+#define IDM_RECENT_LAST 32809
+#define IDM_PROJECT_CLOSE 32810
+#define IDM_UNDO 32811
+#define IDM_CUT 32812
+#define IDM_COPY 32813
+#define IDM_PASTE 32814
+#define IDM_LAYER_ADD 32815
+#define IDM_LAYER_REMOVE 32816
+#define IDM_MENUS_LAST 32816
