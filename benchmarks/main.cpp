@@ -7,6 +7,7 @@
 #include "benchmarks/ButtonBench.h"
 #include "benchmarks/ComboBench.h"
 #include "benchmarks/GlyphBench.h"
+#include "benchmarks/MenuBench.h"
 #include "benchmarks/Report.h"
 
 namespace {
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
         return 1;
 
     std::vector<Row> rows = BenchButton();
-    for (const auto& bench : {BenchGlyph, BenchCombo}) {
+    for (const auto& bench : {BenchGlyph, BenchCombo, BenchMenus}) {
         const std::vector<Row> more = bench();
         rows.insert(rows.end(), more.begin(), more.end());
     }

@@ -4,6 +4,7 @@
 #include "gallery/ButtonsPage.h"
 #include "gallery/CombosPage.h"
 #include "gallery/GlyphsPage.h"
+#include "gallery/MenusPage.h"
 #include "gallery/PicturesPage.h"
 #include "gallery/resource.h"
 
@@ -15,6 +16,7 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
     m_pages.push_back(std::make_unique<CGlyphsPage>());
     m_pages.push_back(std::make_unique<CCombosPage>());
+    m_pages.push_back(std::make_unique<CMenusPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
 }
 

@@ -36,9 +36,7 @@ public:
     bool IsRead() const { return m_read; }
     bool IsOwnerDrawn() const { return (m_info.fType & MFT_OWNERDRAW) != 0; }
     bool IsSeparator() const { return (m_info.fType & MFT_SEPARATOR) != 0; }
-    bool IsBitmap() const {
-        return (m_info.fType & MFT_BITMAP) != 0 || m_info.hbmpItem != nullptr;
-    }
+    bool IsBitmap() const { return (m_info.fType & MFT_BITMAP) != 0 || m_info.hbmpItem != nullptr; }
     const MENUITEMINFOA& Info() const { return m_info; }
     LPCSTR Caption() const { return m_caption; }
 
@@ -142,8 +140,8 @@ private:
         const int line = m_context.LineHeight();
         item.SetData(item.IsSeparator()
                          ? MenuItemData::Separator(line / 2 + 2)
-                         : MenuItemData::PopupItem((std::max)(line + 2, 16) + 4,
-                                                   m_acceleratorWidth, m_labelWidth));
+                         : MenuItemData::PopupItem((std::max)(line + 2, 16) + 4, m_acceleratorWidth,
+                                                   m_labelWidth));
     }
 
     HMENU m_menu;

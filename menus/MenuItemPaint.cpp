@@ -14,11 +14,11 @@
 namespace tint {
 namespace {
 
-constexpr int kFlatColumn = 22;    // width of the icon column without a gradient
-constexpr int kTextLeft = 30;      // where labels and separators begin
-constexpr int kBarShadow = 4;      // on the right of a bar item
-constexpr int kImageSize = 16;     // the toolbar images' width and height
-constexpr int kCheckWidth = 15;    // of the box a check mark or bullet stands in
+constexpr int kFlatColumn = 22;     // width of the icon column without a gradient
+constexpr int kTextLeft = 30;       // where labels and separators begin
+constexpr int kBarShadow = 4;       // on the right of a bar item
+constexpr int kImageSize = 16;      // the toolbar images' width and height
+constexpr int kCheckWidth = 15;     // of the box a check mark or bullet stands in
 constexpr int kAcceleratorGap = 12; // on the right of accelerator texts
 
 /// The system's check mark (OBM_CHECK, which windows.h shows only to those who ask for OEM resources).
@@ -201,9 +201,7 @@ void Painter::DrawTexts(UINT prefix) {
 }
 
 void Painter::DrawCheckedFrame() {
-    m_fill = m_disabled         ? Face(73)
-             : m_state.selected ? Highlight(50, -50)
-                                : Highlight(70, -57);
+    m_fill = m_disabled ? Face(73) : m_state.selected ? Highlight(50, -50) : Highlight(70, -57);
     const CPenSelector pen(m_dc, System(COLOR_HIGHLIGHT));
     const CBrushSelector brush(m_dc, m_fill);
     m_dc.Rectangle(m_rect.left + 1, m_rect.top + 1, m_rect.left + 20, m_rect.bottom - 1);

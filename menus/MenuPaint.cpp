@@ -60,9 +60,8 @@ std::vector<DWORD> GradientRow(const Steps& steps, int left, int firstColumn, in
     for (int step = 0; step <= steps.Count(); ++step) {
         const COLORREF color = steps.Color(step);
         const int begin = (std::max)(left + steps.Left(step), firstColumn);
-        const int end = step == steps.Count()
-                            ? lastColumn
-                            : (std::min)(left + steps.Left(step + 1), lastColumn);
+        const int end = step == steps.Count() ? lastColumn
+                                              : (std::min)(left + steps.Left(step + 1), lastColumn);
         for (int x = begin; x < end; ++x)
             row[x - firstColumn] = RGB(GetBValue(color), GetGValue(color), GetRValue(color));
     }
@@ -116,9 +115,7 @@ struct RightEdge {
     int top;
     int rows; ///< before the corners are taken off
 
-    RECT Area() const {
-        return {right - kShadow, top + kShadow, right, top + kShadow + rows};
-    }
+    RECT Area() const { return {right - kShadow, top + kShadow, right, top + kShadow + rows}; }
 
     bool Covers(int x, int y) const {
         const int column = right - 1 - x;

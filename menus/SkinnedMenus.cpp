@@ -47,8 +47,8 @@ bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lPara
         result = TRUE;
         return CMenuXP::OnDrawItem(reinterpret_cast<DRAWITEMSTRUCT*>(lParam), window.m_hWnd);
     case WM_MENUCHAR:
-        result = CMenuXP::OnMenuChar(reinterpret_cast<HMENU>(lParam), LOWORD(wParam),
-                                     HIWORD(wParam));
+        result =
+            CMenuXP::OnMenuChar(reinterpret_cast<HMENU>(lParam), LOWORD(wParam), HIWORD(wParam));
         return result != 0;
     case WM_EXITMENULOOP:
         ::SetRectEmpty(&GetMenuState().openBarItem);

@@ -9,6 +9,9 @@ class PictureTour;
 /// @param suffix  appended to the names of the pictures: empty, or a hyphen and the scheme
 void TourButtons(PictureTour& tour, const std::string& suffix);
 
+/// Menus of a frame window and a context menu, opened by keys and mouse.
+void TourMenus(PictureTour& tour, const std::string& suffix);
+
 /// The pictures, with one pasted from the clipboard.
 void TourPictures(PictureTour& tour, const std::string& suffix);
 

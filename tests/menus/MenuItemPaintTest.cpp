@@ -188,10 +188,9 @@ TEST_P(MenuItemBackground, IsByTheRuleInEveryState) {
         for (int y = 0; y < picture.height; ++y) {
             for (int x = 0; x < picture.width; ++x) {
                 const bool inside = ::PtInRect(&kRow, {x, y}) != FALSE;
-                const COLORREF expected = inside
-                                              ? Expected(c, x - kRow.left, y - kRow.top, column,
-                                                         selected, disabledSelected)
-                                              : Canvas::kUntouched;
+                const COLORREF expected = inside ? Expected(c, x - kRow.left, y - kRow.top, column,
+                                                            selected, disabledSelected)
+                                                 : Canvas::kUntouched;
                 if (picture.At(x, y) != expected && ++wrong == 1)
                     ADD_FAILURE() << c.name << " at " << x - kRow.left << ", " << y - kRow.top
                                   << std::hex << ": have " << picture.At(x, y) << ", want "
@@ -276,19 +275,19 @@ TEST(MenuItemText, IsWhatTheRuleDraws) {
         CMenuXP::ConvertMenu(nullptr, menu, true, false);
         PaintInto(ours, menu, c.data, c.state);
 
-        const std::string label = std::string(c.caption).substr(0, std::string(c.caption).find('\t'));
+        const std::string label =
+            std::string(c.caption).substr(0, std::string(c.caption).find('\t'));
         const std::string accelerator = label == c.caption ? "" : c.caption + label.size() + 1;
         if (label != "X") {
             const bool bar = c.data == kBarData;
             const bool disabled = (c.itemFlags & 3) == 3;
             const CDCObjectSaver font(rule.dc(), DEFAULT_GUI_FONT,
                                       (c.state & ODS_INACTIVE) != 0 ? System(COLOR_BTNSHADOW)
-                                      : disabled                   ? Face(-18)
-                                                                   : System(COLOR_MENUTEXT));
+                                      : disabled                    ? Face(-18)
+                                                                    : System(COLOR_MENUTEXT));
             const CFontWeightSelector weight(rule.dc(), c.isDefault && !bar);
             ::SetBkMode(rule.dc(), TRANSPARENT);
-            const UINT prefix =
-                (c.state & ODS_NOACCEL) != 0 && !c.keyboardCues ? DT_HIDEPREFIX : 0;
+            const UINT prefix = (c.state & ODS_NOACCEL) != 0 && !c.keyboardCues ? DT_HIDEPREFIX : 0;
             const UINT format = DT_VCENTER | DT_SINGLELINE;
             RECT place = kRow;
             if (bar) {
@@ -352,10 +351,10 @@ struct MarkCase {
 };
 
 constexpr MarkCase kMarkCases[] = {
-    {"resting", false, false, false},          {"selected", true, false, false},
-    {"disabled", false, false, true},          {"selected, disabled", true, false, true},
-    {"checked", false, true, false},           {"checked, selected", true, true, false},
-    {"checked, disabled", false, true, true},  {"all", true, true, true},
+    {"resting", false, false, false},         {"selected", true, false, false},
+    {"disabled", false, false, true},         {"selected, disabled", true, false, true},
+    {"checked", false, true, false},          {"checked, selected", true, true, false},
+    {"checked, disabled", false, true, true}, {"all", true, true, true},
 };
 
 COLORREF CheckedFill(const MarkCase& c) {
@@ -381,8 +380,8 @@ public:
     /// In coordinates of the row.
     COLORREF At(int x, int y) const { return m_canvas.At(kRow.left + x, kRow.top + y); }
     int Count(COLORREF color, int left, int top, int right, int bottom) const {
-        return m_canvas.Count(color, {kRow.left + left, kRow.top + top, kRow.left + right,
-                                      kRow.top + bottom});
+        return m_canvas.Count(
+            color, {kRow.left + left, kRow.top + top, kRow.left + right, kRow.top + bottom});
     }
 
 private:
@@ -415,8 +414,7 @@ TEST(MenuItemMarks, ImagesAreLiftedOrFlat) {
 
         const COLORREF lifted = Highlight(50, -66);
         // The lifted silhouette looks out below and to the right.
-        EXPECT_EQ(item.Count(lifted, 4, 4, 20, 20),
-                  raised && !c.disabled ? 2 * 16 + 2 * 14 : 0)
+        EXPECT_EQ(item.Count(lifted, 4, 4, 20, 20), raised && !c.disabled ? 2 * 16 + 2 * 14 : 0)
             << c.name;
         EXPECT_EQ(item.Count(Face(-27), 3, 3, 19, 19), c.disabled ? 16 * 16 - 1 : 0) << c.name;
     }

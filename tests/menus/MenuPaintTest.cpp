@@ -55,8 +55,8 @@ TEST(Gradient, IsTheStripsOfTheRule) {
     constexpr COLORREF white = 0xFFFFFF;
     for (const GradientCase& gradient : {
              GradientCase{blue, white, {0, 0, 30, 20}},
-             GradientCase{white, blue, {7, 12, 37, 20}}, // from y = 0 all the same
-             GradientCase{blue, blue, {7, 12, 37, 20}},  // one fill, of just the rectangle
+             GradientCase{white, blue, {7, 12, 37, 20}},        // from y = 0 all the same
+             GradientCase{blue, blue, {7, 12, 37, 20}},         // one fill, of just the rectangle
              GradientCase{0x102030, 0x102031, {3, 0, 100, 20}}, // one strip
              GradientCase{0x000000, 0xFFFFFF, {0, 0, 120, 20}}, // strips narrower than a pixel
              GradientCase{0x0000FF, 0xFF0000, {-40, 0, 500, 90}},

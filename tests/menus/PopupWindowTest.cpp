@@ -212,10 +212,10 @@ TEST(OsClass, IsTheFamilyOfTheVersion) {
         DWORD platform, major, minor;
         int osClass;
     };
-    for (const Case& c : {Case{0, 3, 10, 1}, Case{1, 4, 0, 2}, Case{1, 4, 10, 3},
-                          Case{1, 4, 90, 4}, Case{1, 5, 10, 2}, Case{2, 3, 51, 5},
-                          Case{2, 4, 0, 6}, Case{2, 5, 0, 7}, Case{2, 5, 1, 8}, Case{2, 5, 2, 5},
-                          Case{2, 6, 1, 5}, Case{2, 10, 0, 5}, Case{3, 1, 0, 2}}) {
+    for (const Case& c : {Case{0, 3, 10, 1}, Case{1, 4, 0, 2}, Case{1, 4, 10, 3}, Case{1, 4, 90, 4},
+                          Case{1, 5, 10, 2}, Case{2, 3, 51, 5}, Case{2, 4, 0, 6}, Case{2, 5, 0, 7},
+                          Case{2, 5, 1, 8}, Case{2, 5, 2, 5}, Case{2, 6, 1, 5}, Case{2, 10, 0, 5},
+                          Case{3, 1, 0, 2}}) {
         OSVERSIONINFOA version = {};
         version.dwPlatformId = c.platform;
         version.dwMajorVersion = c.major;
@@ -277,8 +277,8 @@ std::string FrameDifference(const Picture& have, const Picture& want, int shadow
         return "size";
     for (int y = 0; y < have.height; ++y)
         for (int x = 0; x < have.width; ++x) {
-            const bool inside = x >= 3 && y >= 3 && x < have.width - shadow - 3 &&
-                                y < have.height - shadow - 3;
+            const bool inside =
+                x >= 3 && y >= 3 && x < have.width - shadow - 3 && y < have.height - shadow - 3;
             if (!inside && have.At(x, y) != want.At(x, y))
                 return std::to_string(x) + ", " + std::to_string(y);
         }
