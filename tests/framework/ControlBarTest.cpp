@@ -48,8 +48,7 @@ TEST_F(ControlBarTest, EverySideLeavesTheRestToThePane) {
          CRect(0, 0, client.right, statusTop - lying)},
         {AFX_IDW_DOCKBAR_LEFT, CRect(0, 0, kButton, kGripper + standing),
          CRect(kButton, 0, client.right, statusTop)},
-        {AFX_IDW_DOCKBAR_RIGHT,
-         CRect(client.right - kButton, 0, client.right, kGripper + standing),
+        {AFX_IDW_DOCKBAR_RIGHT, CRect(client.right - kButton, 0, client.right, kGripper + standing),
          CRect(0, 0, client.right - kButton, statusTop)},
     };
     for (const auto& row : rows) {
@@ -104,7 +103,6 @@ TEST_F(ControlBarTest, TheMouseDragsABarToEverySide) {
 
 TEST_F(ControlBarTest, EscapeLeavesABarWhereItWas) {
     const CRect before = ToolsPlace();
-    automation::MoveMouse(CPoint(50 + 3, before.top + 50 + 3));
     CRect bar;
     Tools().GetWindowRect(bar);
     automation::MoveMouse(CPoint(bar.left + 3, bar.top + 3));
@@ -183,7 +181,7 @@ TEST_F(ControlBarTest, BarsThatDoNotFitGoToFurtherRows) {
     m_frame->MoveWindow(50, 50, window.Width() - missing, window.Height());
     EXPECT_EQ(m_frame->PlaceOf(second).TopLeft(), CPoint(kGripper + kLength, 0));
     m_frame->MoveWindow(50, 50, window.Width() - missing - 1, window.Height());
-    EXPECT_EQ(m_frame->PlaceOf(second).TopLeft(), CPoint(1, kButtonHeight));
+    EXPECT_EQ(m_frame->PlaceOf(second).TopLeft(), CPoint(kGripper + kLength - 1, kButtonHeight));
     EXPECT_EQ(m_frame->Pane().top, 2 * kButtonHeight);
     second.DestroyWindow();
     m_frame->RecalcLayout();
@@ -216,6 +214,7 @@ TEST_F(ControlBarTest, IdleTimeUpdatesButtonsAndPanes) {
     const bool caps = (::GetKeyState(VK_CAPITAL) & 1) != 0;
     EXPECT_EQ((m_frame->m_status.GetPaneStyle(1) & SBPS_DISABLED) == 0, caps);
 
+    m_frame->m_status.SetPaneInfo(0, ID_SEPARATOR, SBPS_STRETCH, 50);
     CRect stretch, caption, last;
     m_frame->m_status.GetItemRect(0, stretch);
     m_frame->m_status.GetItemRect(1, caption);

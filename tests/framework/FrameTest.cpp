@@ -142,8 +142,8 @@ TEST(MdiFrame, TheActiveChildBringsItsMenuAndComesFirst) {
     EXPECT_EQ(frame->GetActiveFrame(), frame);
     CMenu childMenu;
     ASSERT_TRUE(childMenu.LoadMenu(103));
-    auto* const first = static_cast<Child*>(
-        frame->CreateNewChild(RUNTIME_CLASS(Child), 102, childMenu.m_hMenu));
+    auto* const first =
+        static_cast<Child*>(frame->CreateNewChild(RUNTIME_CLASS(Child), 102, childMenu.m_hMenu));
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(frame->GetMenu()->m_hMenu, childMenu.m_hMenu);
     auto* const second = static_cast<Child*>(frame->CreateNewChild(RUNTIME_CLASS(Child), 102));
