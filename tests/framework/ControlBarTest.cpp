@@ -164,6 +164,48 @@ TEST_F(ControlBarTest, AWishForLengthWrapsBetweenGroups) {
     EXPECT_EQ(third.TopLeft(), CPoint(0, kButtonHeight + kGap * 2 / 3));
 }
 
+/// Tells the layout, and nobody else, that the first button is not there.
+class Shortened : public CToolBar {
+public:
+    bool m_laysOut = false;
+    DWORD m_committed = 0;
+    CSize CalcDynamicLayout(int length, DWORD mode) override {
+        m_laysOut = true;
+        const CSize size = CToolBar::CalcDynamicLayout(length, mode);
+        m_laysOut = false;
+        m_committed |= (mode & LM_COMMIT) != 0 ? mode : 0;
+        return size;
+    }
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = CToolBar::DefWindowProc(message, wParam, lParam);
+        if (m_laysOut && message == TB_GETBUTTON && wParam == 0)
+            reinterpret_cast<TBBUTTON*>(lParam)->fsState |= TBSTATE_HIDDEN;
+        return result;
+    }
+};
+
+TEST_F(ControlBarTest, ADerivedClassCanHideButtonsFromTheLayout) {
+    Shortened bar;
+    ASSERT_TRUE(bar.CreateEx(m_frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP,
+                             CRect(0, 0, 0, 0), AFX_IDW_CONTROLBAR_FIRST + 0x42));
+    ASSERT_TRUE(bar.LoadToolBar(101));
+    EXPECT_EQ(bar.CalcFixedLayout(FALSE, TRUE), CSize(kLength, kButtonHeight + 1));
+    EXPECT_EQ(bar.CalcDynamicLayout(-1, LM_HORZ | LM_HORZDOCK),
+              CSize(kLength - kButton, kButtonHeight + 1));
+    EXPECT_EQ(bar.m_committed, 0u);
+    bar.EnableDocking(CBRS_ALIGN_LEFT);
+    m_frame->DockControlBar(&bar);
+    EXPECT_EQ(bar.m_pDockBar->GetDlgCtrlID(), AFX_IDW_DOCKBAR_LEFT);
+    EXPECT_EQ(bar.m_committed, static_cast<DWORD>(LM_VERTDOCK | LM_COMMIT));
+    // What the layout was told has not got into the control.
+    EXPECT_EQ(bar.GetButtonStyle(0) & TBBS_HIDDEN, 0u);
+    bar.EnableDocking(0);
+    m_frame->DockControlBar(&bar);
+    EXPECT_TRUE(bar.IsFloating());
+}
+
 TEST_F(ControlBarTest, BarsThatDoNotFitGoToFurtherRows) {
     CToolBar second;
     ASSERT_TRUE(second.CreateEx(m_frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP,
