@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <afxwin.h>
 
+#include <memory>
+
 #include "Handles.h"
 
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
