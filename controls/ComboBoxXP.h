@@ -68,7 +68,8 @@ protected:
 private:
     static constexpr UINT kNone = 0xFFFFFFFF;
 
-    bool IsOnControlBar() const;
+    CFrameWnd* BarFrame() const;
+    bool IsOnControlBar() const { return BarFrame() != nullptr; }
     void SetUp();
     int HeightWithList();
     void ApplyRequestedHeight();

@@ -294,22 +294,24 @@ TEST(ComboBoxXP, WantsAllKeysWhileEnterIsDown) {
 class Measured : public CComboBoxXP {
 public:
     bool m_fixed = false;
-    std::vector<int> m_windowHeights;
-    std::vector<int> m_fieldHeights;
+    std::vector<int> m_windows;
+    std::vector<int> m_fields;
 
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         const bool ofField = wParam == static_cast<WPARAM>(-1);
+        constexpr UINT bySystem = SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW;
         if (m_fixed && message == CB_GETITEMHEIGHT)
             return ofField ? 18 : 16;
-        if (m_fixed && message == CB_SETITEMHEIGHT && ofField) {
-            m_fieldHeights.push_back(static_cast<int>(lParam));
+        if (m_fixed && message == CB_SETITEMHEIGHT && ofField && m_fields.size() < 9) {
+            m_fields.push_back(static_cast<int>(lParam));
+            SetWindowPos(nullptr, 0, 0, 90, 30 + static_cast<int>(m_fields.size()), bySystem);
             return 0;
         }
         if (m_fixed && message == WM_WINDOWPOSCHANGING) {
             const auto* const position = reinterpret_cast<const WINDOWPOS*>(lParam);
-            if ((position->flags & (SWP_NOSIZE | SWP_NOREDRAW)) == 0) // not the system's own
-                m_windowHeights.push_back(position->cy);
+            if ((position->flags & (SWP_NOSIZE | SWP_NOREDRAW)) == 0)
+                m_windows.push_back(position->cy);
         }
         return CComboBoxXP::DefWindowProc(message, wParam, lParam);
     }
@@ -343,24 +345,22 @@ TEST_F(HeightRule, WindowHoldsFieldRowsAndBorders) {
     Create(combo, CBS_DROPDOWN, 22);
     combo.m_fixed = true;
     const auto resize = [&](int height) {
-        combo.m_windowHeights.clear();
-        combo.m_fieldHeights.clear();
+        combo.m_windows.clear();
+        combo.m_fields.clear();
         combo.SetWindowPos(nullptr, 0, 0, 100, height, SWP_NOMOVE | SWP_NOZORDER);
+        return std::pair(combo.m_windows, combo.m_fields);
+    };
+    const auto heights = [](int window, int field) {
+        return std::pair(std::vector{window}, std::vector{field});
     };
     ASSERT_EQ(::GetSystemMetrics(SM_CYBORDER), 1);
-    resize(100);
-    EXPECT_EQ(combo.m_windowHeights, std::vector<int>{137});
-    EXPECT_EQ(combo.m_fieldHeights, std::vector<int>{94});
+    EXPECT_EQ(resize(100), heights(137, 94));
     combo.SetVisibleRows(10);
-    resize(40);
-    EXPECT_EQ(combo.m_windowHeights, std::vector<int>{18 + 16 * 10 + 7}) << "still 7 borders";
-    EXPECT_EQ(combo.m_fieldHeights, std::vector<int>{34});
-    resize(2);
-    EXPECT_EQ(combo.m_fieldHeights, std::vector<int>{0xFFFC}) << "the low 16 bits";
-
-    combo.m_fieldHeights.clear();
+    EXPECT_EQ(resize(40), heights(18 + 16 * 10 + 7, 34)) << "still 7 borders";
+    EXPECT_EQ(resize(2), heights(18 + 16 * 10 + 7, 0xFFFC)) << "the low 16 bits";
+    combo.m_fields.clear();
     combo.SetWindowPos(nullptr, 20, 20, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    EXPECT_TRUE(combo.m_fieldHeights.empty()) << "a move";
+    EXPECT_TRUE(combo.m_fields.empty()) << "a move";
 }
 
 int RowsShown(CComboBoxXP& combo) {
