@@ -60,6 +60,7 @@ void CComboBoxXP::PreSubclassWindow() {
     CRect window;
     GetWindowRect(window);
     SetWindowPos(nullptr, 0, 0, window.Width(), HeightWithList(), SWP_NOMOVE | SWP_NOZORDER);
+    m_fieldHeight = kNone; // a font may follow
 }
 
 void CComboBoxXP::SetUp() {
