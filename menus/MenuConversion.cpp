@@ -121,9 +121,9 @@ private:
             return;
         auto& records = tint::MenuRecords::Get();
         records.SetText(item.Info(), item.Caption());
-        const CImgDesc image = m_images.Find(item.Info().wID);
-        if (image.index != -1)
-            records.SetImage(item.Info(), image);
+        const auto found = m_images.Find(item.Info().wID);
+        if (found.toolbar != nullptr)
+            records.SetImage(item.Info(), found.image, found.toolbar);
     }
 
     int BarLabelWidth(LPCSTR caption) {

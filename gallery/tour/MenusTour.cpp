@@ -104,7 +104,7 @@ void TourContextMenu(PictureTour& tour, const std::string& suffix) {
     automation::TypeKey(VK_DOWN);
     automation::TypeKey(VK_DOWN);
     automation::WaitUntilSteady(popup);
-    tour.Write(automation::WaitUntilSteady(tour.Page()), "menu-context" + suffix);
+    tour.Write(automation::WaitUntilSteady(tour.Gallery()), "menu-context" + suffix);
     CloseMenus(1);
 }
 

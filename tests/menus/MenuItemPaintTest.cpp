@@ -174,6 +174,37 @@ TEST(MenuItemPaint, BackgroundIsTheRules) {
     }
 }
 
+decltype(&::SystemParametersInfoA) g_realParameters;
+
+BOOL WINAPI PretendHighContrast(UINT action, UINT size, void* value, UINT flags) {
+    if (action != SPI_GETHIGHCONTRAST)
+        return g_realParameters(action, size, value, flags);
+    static_cast<HIGHCONTRASTA*>(value)->dwFlags = HCF_HIGHCONTRASTON;
+    return TRUE;
+}
+
+TEST(MenuItemPaint, HighContrastIsPlainSystemColours) {
+    ImportPatch patch;
+    g_realParameters = patch.Redirect("user32.dll", "SystemParametersInfoA", &PretendHighContrast);
+    const automation::SystemColorGuard dark(
+        automation::FindColorScheme("high-contrast-dark")->colors);
+    const TestMenu menu({"MMM"});
+    ::CheckMenuItem(menu, kId, MF_CHECKED);
+    CMenuXP::ConvertMenu(nullptr, menu, true, false);
+    const auto shows = [&](UINT state, int back, int text) {
+        const RowCanvas canvas;
+        canvas.Paint(menu, kPopup, state);
+        return canvas.At(kRow.right - 5, kTop + 3) == System(back) &&
+               canvas.At(kLeft + 3, kTop + 3) == System(back) &&
+               canvas.Count(System(text), {kLeft + 30, kTop, kRow.right, kRow.bottom}) > 20 &&
+               canvas.Count(System(text), {kLeft + 2, kTop + 2, kLeft + 19, kRow.bottom - 2}) > 5;
+    };
+    EXPECT_TRUE(shows(0, COLOR_MENU, COLOR_MENUTEXT));
+    EXPECT_TRUE(shows(ODS_SELECTED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT));
+    ::EnableMenuItem(menu, kId, kDisabled);
+    EXPECT_TRUE(shows(ODS_SELECTED, COLOR_MENU, COLOR_GRAYTEXT));
+}
+
 TEST(MenuItemPaint, LookIsReadOnceAndFollowsTheSystemWhereItSaysSo) {
     const LookSetting start("MenuXP", "GradientStart", -1);
     const LookSetting end("MenuXP", "GradientEnd", -1);
