@@ -20,3 +20,6 @@ void TourGlyphs(PictureTour& tour, const std::string& suffix);
 
 /// The combo box in each of its states.
 void TourCombos(PictureTour& tour, const std::string& suffix);
+
+/// The toolbar in each of its states, docked at the top and at the left, and the status bar.
+void TourBars(PictureTour& tour, const std::string& suffix);
