@@ -83,7 +83,15 @@ private:
     bool Follow() {
         Outline outline;
         MSG msg;
-        while (::GetCapture() == m_window && ::GetMessage(&msg, nullptr, 0, 0) > 0) {
+        while (::GetCapture() == m_window) {
+            const BOOL fetched = ::GetMessage(&msg, nullptr, 0, 0);
+            if (fetched == 0) {
+                // The program's own loop has to end, too.
+                ::PostQuitMessage(static_cast<int>(msg.wParam));
+            }
+            if (fetched == 0 || fetched == -1) {
+                return false;
+            }
             switch (msg.message) {
             case WM_MOUSEMOVE:
                 Move(msg.pt);

@@ -124,7 +124,8 @@ void CStatusBar::LayOutPanes() {
     const int gap = borders[2];
     CRect client;
     GetClientRect(client);
-    int room = client.Width() - borders[0];
+    // There is no gap behind the last pane.
+    int room = client.Width() - borders[0] + gap;
     for (const Pane& pane : m_panes) {
         room -= pane.width + 2 * TextRoom + gap;
     }
@@ -249,6 +250,7 @@ CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 }
 
 void CStatusBar::OnPaint() {
+    // The control paints its panes; there are no borders to draw around them.
     Default();
 }
 

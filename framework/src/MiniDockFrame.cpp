@@ -21,7 +21,11 @@ bool afx::MiniDockFrame::CreateFor(CControlBar& bar, CFrameWnd& owner, DWORD ali
                 CRect(0, 0, 0, 0), &owner)) {
         return false;
     }
-    return m_dock.CreateSide(this, align, AFX_IDW_DOCKBAR_FLOAT) != FALSE;
+    if (!m_dock.CreateSide(this, align, AFX_IDW_DOCKBAR_FLOAT)) {
+        DestroyWindow();
+        return false;
+    }
+    return true;
 }
 
 afx::MiniDockFrame* afx::MiniDockFrame::Of(const CControlBar& bar) {
