@@ -37,6 +37,17 @@ HWND WaitForWindow(const char* windowClass, const char* title, int count) {
     return nullptr;
 }
 
+/// The page's button, once the page is shown: on a busy machine the gallery looks at rest before.
+HWND WaitForOpenButton(const PictureTour& tour) {
+    HWND button = nullptr;
+    for (int look = 0; look < 500 && button == nullptr; ++look) {
+        ::Sleep(20);
+        button = ::GetDlgItem(tour.Page(), IDC_MENUS_OPEN);
+    }
+    automation::WaitUntilSteady(tour.Gallery());
+    return button;
+}
+
 HWND WaitForPopups(int count) {
     return WaitForWindow("#32768", nullptr, count);
 }
@@ -113,7 +124,7 @@ void TourContextMenu(PictureTour& tour, const std::string& suffix) {
 } // namespace
 
 void TourMenus(PictureTour& tour, const std::string& suffix) {
-    automation::Click(::GetDlgItem(tour.Page(), IDC_MENUS_OPEN));
+    automation::Click(WaitForOpenButton(tour));
     tour.ParkMouse();
     const HWND frame = WaitForWindow(nullptr, "Menus", 1);
     if (frame == nullptr) {
