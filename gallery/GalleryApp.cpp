@@ -23,8 +23,10 @@ BOOL CGalleryApp::InitInstance() {
     }
 
     auto* const gallery = new CGalleryFrame; // deletes itself with its window
-    if (!gallery->CreateGallery())
+    if (!gallery->CreateGallery()) {
+        m_exitCode = 1;
         return FALSE;
+    }
     m_pMainWnd = gallery;
     if (options.scheme != nullptr)
         gallery->ChooseScheme(static_cast<int>(options.scheme - automation::ColorSchemes().data()));

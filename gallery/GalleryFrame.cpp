@@ -89,8 +89,12 @@ BOOL CGalleryFrame::CreateToolBar() {
 BOOL CGalleryFrame::CreateStatusBar() {
     constexpr UINT panes[] = {ID_SEPARATOR, ID_INDICATOR_SCENE, ID_INDICATOR_SCHEME,
                               ID_INDICATOR_CAPS, ID_INDICATOR_NUM};
-    return m_statusBar.Create(this) &&
-           m_statusBar.SetIndicators(panes, static_cast<int>(std::size(panes)));
+    if (!m_statusBar.Create(this) ||
+        !m_statusBar.SetIndicators(panes, static_cast<int>(std::size(panes))))
+        return FALSE;
+    // What the other panes leave, however little that is.
+    m_statusBar.SetPaneInfo(0, ID_SEPARATOR, m_statusBar.GetPaneStyle(0), 0);
+    return TRUE;
 }
 
 /// Fills the Scene menu with one item a scene, above its last separator.
@@ -227,7 +231,11 @@ void CGalleryFrame::OnUpdateScheme(CCmdUI* item) {
 }
 
 void CGalleryFrame::OnUpdateSchemePane(CCmdUI* item) {
-    item->SetText(automation::ColorSchemes()[m_scheme].name);
+    CString strings;
+    CString name; // stands where other commands have their tool tip
+    strings.LoadString(ID_SCHEME_FIRST + m_scheme);
+    AfxExtractSubString(name, strings, 1);
+    item->SetText(name);
 }
 
 void CGalleryFrame::OnDock(UINT id) {

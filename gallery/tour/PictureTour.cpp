@@ -30,6 +30,25 @@ HWND WaitForGallery() {
     return nullptr;
 }
 
+/// Flat menu bars, as Windows has them always and Wine when it is asked to.
+class FlatMenus {
+public:
+    FlatMenus() {
+        ::SystemParametersInfoA(SPI_GETFLATMENU, 0, &m_former, 0);
+        Set(TRUE);
+    }
+    ~FlatMenus() { Set(m_former); }
+    FlatMenus(const FlatMenus&) = delete;
+    FlatMenus& operator=(const FlatMenus&) = delete;
+
+private:
+    static void Set(BOOL flat) {
+        ::SystemParametersInfoA(SPI_SETFLATMENU, 0, reinterpret_cast<PVOID>(INT_PTR{flat}), 0);
+    }
+
+    BOOL m_former = FALSE;
+};
+
 } // namespace
 
 PictureTour::PictureTour(std::string folder) : m_folder(std::move(folder)) {
@@ -62,8 +81,10 @@ void PictureTour::Run() {
     ::SetForegroundWindow(m_gallery);
     // Where no window manager runs, nobody tells the caption that its window is the active one.
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
+    const FlatMenus flatMenus;
+    WPARAM command = ID_SCHEME_FIRST;
     for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
-        const automation::SystemColorGuard colors(scheme.colors);
+        ::SendMessageA(m_gallery, WM_COMMAND, command++, 0);
         VisitScenes(scheme.name);
     }
 }
@@ -92,6 +113,12 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     if (isDefault)
         Write(window, "gallery");
     Write(window, "gallery-" + scheme);
+
+    automation::TypeKey(VK_F8); // the skin off
+    Write(automation::WaitUntilSteady(m_gallery), "gallery-without-skin" + suffix);
+    automation::TypeKey(VK_F8);
+    ParkMouse();
+    automation::WaitUntilSteady(m_gallery);
 }
 
 HWND PictureTour::Contents() const {

@@ -15,7 +15,7 @@ namespace {
 /// The buttons of the toolbar in the order of its resource, the combo box among them.
 enum Button { kPrevious = 0, kCombo = 3, kPaste = 6, kSkin = 8, kSchemes = 10 };
 
-/// The first button of a toolbar that has `command`, in screen coordinates.
+/// In screen coordinates.
 RECT ButtonRect(HWND toolBar, int index) {
     // The rectangle comes back by the window's thread, which is of this process.
     RECT rect = {};
@@ -49,7 +49,7 @@ void TourStates(PictureTour& tour, const std::string& suffix) {
     const HWND bar = tour.ToolBar();
     const HWND combo = ::GetDlgItem(bar, IDC_SCENE_COMBO);
     PictureSheet sheet(1, 2);
-    const auto add = [&](const char* label) { sheet.Add(label, tour.PictureOf(bar)); };
+    const auto add = [&](const char* label) { sheet.Add(label, automation::WaitUntilSteady(bar)); };
 
     tour.ParkMouse();
     add("Resting: two checked buttons, one disabled");
@@ -79,10 +79,10 @@ void TourStates(PictureTour& tour, const std::string& suffix) {
     if (WaitForMenu() != nullptr) {
         automation::TypeKey(VK_DOWN);
         add("Its menu open");
-        RECT rect = {};
-        ::GetWindowRect(bar, &rect);
-        rect.bottom += 80;
-        tour.Write(automation::CaptureScreen(rect), "toolbar-menu" + suffix);
+        RECT window = {};
+        ::GetWindowRect(tour.Gallery(), &window);
+        window.bottom = window.top + 150;
+        tour.Write(automation::CaptureScreen(window), "toolbar-menu" + suffix);
         automation::TypeKey(VK_ESCAPE);
     }
     tour.ParkMouse();
@@ -106,7 +106,7 @@ void TourBars(PictureTour& tour, const std::string& suffix) {
 
     MoveMouseToLeftOf(ButtonRect(tour.ToolBar(), kSkin)); // its text is in the status bar
     PictureSheet status(1, 2);
-    status.Add("The text of the button under the mouse, and panes", tour.PictureOf(tour.StatusBar()));
+    status.Add("The text of the button under the mouse, and panes", automation::WaitUntilSteady(tour.StatusBar()));
     tour.Write(status.Compose(), "statusbar" + suffix);
     tour.ParkMouse();
 
