@@ -24,6 +24,8 @@ public:
 
     /// The default item's texts are bold.
     bool IsDefault() const { return (m_info.fState & MFS_DEFAULT) != 0; }
+    /// Both bits are needed (MF_GRAYED | MF_DISABLED, as CCmdUI sets them): an item with one of them is
+    /// drawn as enabled.  Deliberate.
     bool IsDisabled() const { return (m_info.fState & MFS_DISABLED) == MFS_DISABLED; }
     bool HasImage() const { return m_image.IsImage(); }
 

@@ -32,6 +32,8 @@ class CWndMenuXP;
 /// - setting a string by ModifyMenu, or with MIIM_TYPE, takes the flag off, and the next conversion
 ///   records the new caption; setting it with MIIM_STRING alone leaves the flag on, and the caption
 ///   that was recorded goes on being shown;
+/// - an item is found again by its identifier when it is painted: submenus that are inserted without
+///   one (MIIM_SUBMENU alone) all have 0 and look alike, so give each its own;
 /// - captions are recorded up to 254 bytes; an item with a bitmap and no string shows no text.
 class CMenuXP {
 public:

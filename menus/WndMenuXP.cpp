@@ -201,14 +201,12 @@ void CWndMenuXP::PaintOverClient() {
 void CWndMenuXP::Print(HDC target, bool joined) {
     const CRect frame = FrameAtOrigin();
     m_lastFrame = frame;
-    CDC dc;
-    dc.Attach(target);
-    tint::Contained([&] {
-        DrawFrame(dc, frame, joined);
-        if (HasOwnShadow())
-            PrintShadow(dc, frame);
-    });
-    dc.Detach(); // it is the sender's
+    CDC* const dc = CDC::FromHandle(target); // it is the sender's
+    if (dc == nullptr)
+        return;
+    DrawFrame(*dc, frame, joined);
+    if (HasOwnShadow())
+        PrintShadow(*dc, frame);
 }
 
 CRect CWndMenuXP::FrameAtOrigin() const {

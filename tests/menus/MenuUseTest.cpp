@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Skinned menus in use: by mouse and keyboard, changed while open, opened over and over.
+#include <afxext.h>
 #include <gtest/gtest.h>
 
 #include "automation/RealInput.h"
@@ -146,27 +147,50 @@ TEST(MenuUse, AWindowMayGoWhileItsMenuIsOpen) {
     }
 }
 
-/// A dialog with a menu.
-class MenuDialog : public CSkinnedMenus<CDialog> {
-public:
-    MenuDialog() {
-        CreateIndirect(m_template.Get(), nullptr);
-        const HMENU bar = ::CreateMenu();
-        ::AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(TestMenu({"&One"}).Release()),
-                      "&Dialog");
-        ::SetMenu(m_hWnd, bar);
-    }
-    ~MenuDialog() override { DestroyWindow(); }
+bool HasSkinnedBar(CWnd& window) {
+    const HMENU bar = ::GetMenu(window.m_hWnd);
+    return CMenuXP::IsMenuXPEnabled(&window) &&
+           (::GetMenuState(bar, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0;
+}
 
-private:
-    DialogTemplate m_template{"Dialog", 120, 60, WS_POPUP | WS_VISIBLE | WS_CAPTION};
+HMENU NewBar() {
+    const HMENU bar = ::CreateMenu();
+    ::AppendMenuA(bar, MF_STRING, 1, "&One");
+    return bar;
+}
+
+/// A skinned window of any base, on the stack.
+template <class Base>
+class Skinned : public CSkinnedMenus<Base> {
+public:
+    void PostNcDestroy() override {}
 };
 
-TEST(MenuUse, ADialogsBarIsSkinnedWhenItIsSet) {
-    const MenuDialog dialog;
-    const HMENU bar = ::GetMenu(dialog.m_hWnd);
-    EXPECT_NE(::GetMenuState(bar, 0, MF_BYPOSITION) & MF_OWNERDRAW, 0U);
-    EXPECT_TRUE(CMenuXP::IsMenuXPEnabled(&dialog));
+TEST(MenuUse, BarsOfDialogsAndFramesAreSkinnedWhenTheyAreSet) {
+    DialogTemplate dialogTemplate("Dialog", 120, 60, WS_POPUP | WS_VISIBLE | WS_CAPTION);
+    Skinned<CDialog> dialog;
+    dialog.CreateIndirect(dialogTemplate.Get(), nullptr);
+    Skinned<CFrameWnd> frame;
+    frame.Create(nullptr, "frame");
+    Skinned<CMDIFrameWnd> mdiFrame;
+    mdiFrame.Create(nullptr, "MDI frame");
+    for (CWnd* const window :
+         {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&frame), static_cast<CWnd*>(&mdiFrame)}) {
+        ::SetMenu(window->m_hWnd, NewBar());
+        EXPECT_TRUE(HasSkinnedBar(*window));
+    }
+    CMenu other; // as an MDI child brings along
+    other.Attach(NewBar());
+    CMenu* const former = mdiFrame.MDISetMenu(&other, nullptr);
+    mdiFrame.DrawMenuBar();
+    EXPECT_TRUE(HasSkinnedBar(mdiFrame));
+    mdiFrame.MDISetMenu(former, nullptr);
+
+    const HWND gone = frame.m_hWnd;
+    for (CWnd* const window :
+         {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&frame), static_cast<CWnd*>(&mdiFrame)})
+        window->DestroyWindow();
+    EXPECT_EQ(::GetPropA(gone, "XPWndProp_MenuXP"), nullptr);
 }
 
 } // namespace
