@@ -60,21 +60,23 @@ void CComboBoxXP::PreSubclassWindow() {
     CRect window;
     GetWindowRect(window);
     SetWindowPos(nullptr, 0, 0, window.Width(), HeightWithList(), SWP_NOMOVE | SWP_NOZORDER);
+    m_fieldHeight = kNone; // a font may follow
 }
 
 void CComboBoxXP::SetUp() {
     m_hover.Attach(m_hWnd, CMouseHoverTracker::kRepaint);
     // The common controls from version 6 on go by this number, others by the window's height.
-    SetMinVisibleItems(m_visibleRows);
+    SendMessage(CB_SETMINVISIBLE, m_visibleRows, 0);
     const HWND edit = ::FindWindowExA(m_hWnd, nullptr, WC_EDITA, nullptr);
     if (edit != nullptr && m_edit.m_hWnd == nullptr && CWnd::FromHandlePermanent(edit) == nullptr)
         m_edit.SubclassWindow(edit);
 }
 
-bool CComboBoxXP::IsOnControlBar() const {
+/// The frame whose control bar this is on; null elsewhere.
+CFrameWnd* CComboBoxXP::BarFrame() const {
     const auto* const bar =
         dynamic_cast<const CControlBar*>(CWnd::FromHandlePermanent(::GetParent(m_hWnd)));
-    return bar != nullptr && bar->m_pDockSite != nullptr;
+    return bar != nullptr ? bar->m_pDockSite : nullptr;
 }
 
 // ---- Height -------------------------------------------------------------------------------------
@@ -83,7 +85,7 @@ void CComboBoxXP::SetVisibleRows(int rows) {
     m_visibleRows = std::clamp(rows, 1, kMostVisibleRows);
     if (m_hWnd == nullptr)
         return;
-    SetMinVisibleItems(m_visibleRows);
+    SendMessage(CB_SETMINVISIBLE, m_visibleRows, 0);
     CRect window; // of the closed field
     GetWindowRect(window);
     SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(),
@@ -150,7 +152,7 @@ void CComboBoxXP::LeaveBar() {
         ShowDropDown(FALSE);
         return;
     }
-    if (CFrameWnd* const frame = GetParentFrame())
+    if (CFrameWnd* const frame = BarFrame())
         frame->GetActiveFrame()->SetFocus(); // a frame hands it on to its active view
 }
 

@@ -68,7 +68,8 @@ protected:
 private:
     static constexpr UINT kNone = 0xFFFFFFFF;
 
-    bool IsOnControlBar() const;
+    CFrameWnd* BarFrame() const;
+    bool IsOnControlBar() const { return BarFrame() != nullptr; }
     void SetUp();
     int HeightWithList();
     void ApplyRequestedHeight();
@@ -77,9 +78,9 @@ private:
     void LeaveBar();
 
     int m_visibleRows = 7;
-    UINT m_fieldHeight = kNone;     ///< kNone: to be read
+    UINT m_fieldHeight = kNone;     ///< of the moment; kNone: to be read
     UINT m_requestedHeight = kNone; ///< of the closed field, between the two halves of a resize
     CComboEditXP m_edit;            ///< without a window for CBS_DROPDOWNLIST
     CMouseHoverTracker m_hover;
-    bool m_appliesHeight = false;
+    bool m_appliesHeight = false; ///< what the system does meanwhile is no further request
 };

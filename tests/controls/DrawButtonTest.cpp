@@ -6,13 +6,14 @@
 #include <afxwin.h>
 
 #include <functional>
-#include <string>
+#include <tuple>
 #include <vector>
 
 #include "automation/Picture.h"
 #include "automation/RealInput.h"
 #include "automation/SystemColors.h"
 #include "draw/Hls.h"
+#include "draw/Selectors.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/Pump.h"
@@ -22,113 +23,67 @@ namespace {
 using B = CDrawButton;
 constexpr UINT kFlatDown = B::kFlat | B::kDownArrow;
 
-// ---- Pictures -----------------------------------------------------------------------------------
-
-// The button under test lies in a rectangle of 17 x 20, moved away from the origin.
-constexpr int kLeft = 3;
-constexpr int kTop = 2;
-
 COLORREF HotFace() {
     return AdjustColorLS(::GetSysColor(COLOR_HIGHLIGHT), 70, -57);
 }
+
+// ---- Pictures -----------------------------------------------------------------------------------
+
+// The button under test lies in a rectangle of 17 x 20, away from the origin.
+constexpr int kLeft = 3;
+constexpr int kTop = 2;
 
 /// A line of a glyph, relative to the rectangle; the last pixel is left out, as GDI does.
 struct Line {
     int x, y, toX, toY;
 };
+using Lines = std::vector<Line>;
 
-std::vector<Line> Arrow(int x, int y, int size, bool down) {
-    std::vector<Line> lines;
-    for (int i = 0; i < size; ++i) {
-        const int row = down ? y - i : y + i;
-        lines.push_back({x - i, row, x + i + 1, row});
-    }
+Lines Arrow(int x, int y, int size, bool down) {
+    Lines lines;
+    for (int i = 0; i < size; ++i)
+        lines.push_back({x - i, down ? y - i : y + i, x + i + 1, down ? y - i : y + i});
     return lines;
 }
 
-std::vector<Line> Both(std::vector<Line> lines, const std::vector<Line>& more) {
+Lines Both(Lines lines, const Lines& more) {
     lines.insert(lines.end(), more.begin(), more.end());
     return lines;
 }
 
-enum class Frame { None, Raised, Pushed, Window, Shadow, Hot, HotPressed };
-
-struct Part {
-    Frame frame;
-    RECT rect; ///< relative
+/// How a button's outline and inside are drawn: by the system, or with two colours.
+struct Frame {
+    UINT classic;
+    int line = 0;
+    COLORREF face = ::GetSysColor(COLOR_BTNFACE);
 };
 
 struct Drawing {
-    const char* name;
     UINT own;
     UINT state; ///< 0: the own flags
-    std::vector<Part> frames;
-    std::vector<Line> glyph;
+    Frame frame;
+    std::vector<RECT> places; ///< of the frames, relative
+    Lines glyph;
     COLORREF color;
-    int dividerAt = -1;                 ///< row of a face-coloured line
-    COLORREF fill = Canvas::kUntouched; ///< what the device shows before
+    COLORREF before = Canvas::kUntouched; ///< what the device shows
 };
 
-void DrawPart(HDC dc, Part part) {
-    ::OffsetRect(&part.rect, kLeft, kTop);
-    const COLORREF highlight = ::GetSysColor(COLOR_HIGHLIGHT);
-    COLORREF line = highlight;
-    COLORREF face = ::GetSysColor(COLOR_BTNFACE);
-    switch (part.frame) {
-    case Frame::None:
-        return;
-    case Frame::Raised:
-    case Frame::Pushed:
-        ::DrawFrameControl(dc, &part.rect, DFC_BUTTON,
-                           DFCS_BUTTONPUSH | (part.frame == Frame::Pushed ? DFCS_PUSHED : 0));
-        return;
-    case Frame::Window:
-        line = ::GetSysColor(COLOR_WINDOW);
-        break;
-    case Frame::Shadow:
-        line = ::GetSysColor(COLOR_BTNSHADOW);
-        break;
-    case Frame::Hot:
-        face = HotFace();
-        break;
-    case Frame::HotPressed:
-        face = AdjustColorLS(highlight, 50, -50);
-        break;
-    }
-    const HBRUSH outer = ::CreateSolidBrush(line);
-    const HBRUSH inner = ::CreateSolidBrush(face);
-    ::FillRect(dc, &part.rect, outer);
-    ::InflateRect(&part.rect, -1, -1);
-    ::FillRect(dc, &part.rect, inner);
-    ::DeleteObject(outer);
-    ::DeleteObject(inner);
-}
-
 void DrawExpected(HDC dc, const Drawing& drawing) {
-    for (const Part& part : drawing.frames)
-        DrawPart(dc, part);
-    for (int x = 0; drawing.dividerAt >= 0 && x < 17; ++x)
-        ::SetPixel(dc, kLeft + x, kTop + drawing.dividerAt, ::GetSysColor(COLOR_BTNFACE));
-    const HPEN pen = ::CreatePen(PS_SOLID, 1, drawing.color);
-    const HGDIOBJ previous = ::SelectObject(dc, pen);
+    for (RECT place : drawing.places) {
+        ::OffsetRect(&place, kLeft, kTop);
+        if (drawing.frame.classic != 0) {
+            ::DrawFrameControl(dc, &place, DFC_BUTTON, drawing.frame.classic);
+            continue;
+        }
+        const CPenSelector line(dc, ::GetSysColor(drawing.frame.line));
+        const CBrushSelector face(dc, drawing.frame.face);
+        ::Rectangle(dc, place.left, place.top, place.right, place.bottom);
+    }
+    const CPenSelector pen(dc, drawing.color);
     for (const Line& line : drawing.glyph) {
         ::MoveToEx(dc, kLeft + line.x, kTop + line.y, nullptr);
         ::LineTo(dc, kLeft + line.toX, kTop + line.toY);
     }
-    ::SelectObject(dc, previous);
-    ::DeleteObject(pen);
-}
-
-void ExpectDrawing(const Drawing& drawing) {
-    SCOPED_TRACE(drawing.name);
-    constexpr UINT odd = 0x80000000; // marks the cases 21 high
-    const int height = (drawing.own & odd) != 0 ? 21 : 20;
-    const Canvas shown(24, 26, drawing.fill);
-    const Canvas expected(24, 26, drawing.fill);
-    const B button(drawing.own & ~odd, {kLeft, kTop, kLeft + 17, kTop + height});
-    button.Draw(shown.dc(), drawing.state);
-    DrawExpected(expected.dc(), drawing);
-    EXPECT_EQ(shown.Snapshot(), expected.Snapshot());
 }
 
 TEST(DrawButton, DrawsEveryKindLookAndState) {
@@ -137,164 +92,112 @@ TEST(DrawButton, DrawsEveryKindLookAndState) {
         automation::FindColorScheme("high-contrast-dark")->colors);
     const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
     const COLORREF gray = ::GetSysColor(COLOR_GRAYTEXT);
-    const COLORREF black = RGB(0, 0, 0);
-    const COLORREF pressedGlyph = RGB(0xF0, 0xF0, 0xF0);
+    constexpr COLORREF black = RGB(0, 0, 0);
+    constexpr COLORREF light = RGB(0xF0, 0xF0, 0xF0);
     ASSERT_NE(text, black);
 
-    constexpr UINT flat = B::kFlat;
-    constexpr UINT hot = B::kFlat | B::kHot;
-    constexpr UINT out = B::kOutsideToolbar;
-    constexpr UINT odd = 0x80000000;
-    const RECT whole = {0, 0, 17, 20};
-    const auto single = [&](Frame frame) { return std::vector<Part>{{frame, whole}}; };
-
-    const auto raisedDown = Arrow(8, 11, 4, true);
-    const auto flatDown = Arrow(8, 12, 4, true);
-    const auto flatUp = Arrow(8, 9, 4, false);
-    const std::vector<Line> raisedCross = {
-        {4, 5, 11, 13}, {5, 5, 12, 13}, {10, 5, 3, 13}, {11, 5, 4, 13}};
-    const std::vector<Line> sunkenCross = {
-        {5, 6, 12, 14}, {6, 6, 13, 14}, {11, 6, 4, 14}, {12, 6, 5, 14}};
-    const std::vector<Line> flatCross = {
-        {4, 5, 12, 14}, {5, 5, 13, 14}, {11, 5, 3, 14}, {12, 5, 4, 14}};
-
-    const RECT upper = {0, 0, 17, 10};
-    const RECT lower = {0, 10, 17, 20};
+    const Frame raised = {DFCS_BUTTONPUSH};
+    const Frame sunken = {DFCS_BUTTONPUSH | DFCS_PUSHED};
+    const Frame window = {0, COLOR_WINDOW};
+    const Frame shadow = {0, COLOR_BTNSHADOW};
+    const Frame hot = {0, COLOR_HIGHLIGHT, HotFace()};
+    const Frame held = {0, COLOR_HIGHLIGHT, AdjustColorLS(::GetSysColor(COLOR_HIGHLIGHT), 50, -50)};
+    const RECT whole = {0, 0, 17, 20}, upper = {0, 0, 17, 10}, lower = {0, 10, 17, 20};
     const RECT flatUpper = {0, 0, 17, 11};
-    const auto spin = [&](Frame frame) {
-        return std::vector<Part>{{frame, flatUpper}, {frame, lower}};
-    };
-    const auto raisedSpin = Both(Arrow(8, 3, 3, false), Arrow(8, 16, 3, true));
-    const auto flatSpin = Both(Arrow(8, 4, 3, false), Arrow(8, 16, 3, true));
+
+    constexpr UINT down = B::kDownArrow, up = B::kUpArrow, cross = B::kCross, spin = B::kSpinPair;
+    constexpr UINT flat = B::kFlat, over = B::kFlat | B::kHot, bare = B::kNoRestingFrame;
+    constexpr UINT out = B::kOutsideToolbar, off = B::kDisabled;
+    constexpr UINT press = B::kPressed, press2 = B::kSecondPressed;
+
+    const Lines downGlyph = Arrow(8, 11, 4, true), downSunken = Arrow(9, 12, 4, true);
+    const Lines downFlat = Arrow(8, 12, 4, true), upFlat = Arrow(8, 9, 4, false);
+    const Lines crossGlyph = {{4, 5, 11, 13}, {5, 5, 12, 13}, {10, 5, 3, 13}, {11, 5, 4, 13}};
+    const Lines crossSunken = {{5, 6, 12, 14}, {6, 6, 13, 14}, {11, 6, 4, 14}, {12, 6, 5, 14}};
+    const Lines crossFlat = {{4, 5, 12, 14}, {5, 5, 13, 14}, {11, 5, 3, 14}, {12, 5, 4, 14}};
+    const Lines spinGlyph = Both(Arrow(8, 3, 3, false), Arrow(8, 16, 3, true));
+    const Lines spinFlat = Both(Arrow(8, 4, 3, false), Arrow(8, 16, 3, true));
 
     const Drawing table[] = {
-        {"classic down", B::kDownArrow, 0, single(Frame::Raised), raisedDown, text},
-        {"classic down, pressed", B::kDownArrow, B::kDownArrow | B::kPressed, single(Frame::Pushed),
-         Arrow(9, 12, 4, true), text},
-        {"classic down, second pressed state", B::kDownArrow | B::kSecondPressed, 0,
-         single(Frame::Pushed), Arrow(9, 12, 4, true), text},
-        {"classic down, disabled", B::kDownArrow | B::kDisabled, 0, single(Frame::Raised),
-         raisedDown, gray},
-        {"classic down is never hot", B::kDownArrow | B::kHot, 0, single(Frame::Raised), raisedDown,
-         text},
-        {"classic up", B::kUpArrow, 0, single(Frame::Raised), Arrow(8, 8, 4, false), text},
-        {"classic up, pressed", B::kUpArrow | B::kPressed, 0, single(Frame::Pushed),
-         Arrow(9, 9, 4, false), text},
-        {"a state replaces the flags", B::kUpArrow | B::kDisabled | flat, B::kDownArrow,
-         single(Frame::Raised), raisedDown, text},
-        {"classic cross", B::kCross, 0, single(Frame::Raised), raisedCross, text},
-        {"classic cross, pressed", B::kCross | B::kPressed, 0, single(Frame::Pushed), sunkenCross,
-         text},
-        {"flat cross", B::kCross | flat, 0, single(Frame::Window), flatCross, text},
-        {"flat cross, hot", B::kCross | hot, 0, single(Frame::Hot), flatCross, black},
-        {"flat down", kFlatDown, 0, single(Frame::Window), flatDown, text},
-        {"flat down, outside", kFlatDown | out, 0, single(Frame::Shadow), flatDown, text},
-        {"the frame follows the own flags", B::kDownArrow, kFlatDown | out, single(Frame::Window),
-         flatDown, text},
-        {"flat down, hot", kFlatDown, kFlatDown | hot, single(Frame::Hot), flatDown, black},
-        {"flat down, hot and pressed", kFlatDown | hot | B::kPressed, 0, single(Frame::HotPressed),
-         flatDown, pressedGlyph},
-        {"flat down, pressed", kFlatDown | B::kPressed, 0, single(Frame::Window), flatDown,
-         pressedGlyph},
-        {"flat down, disabled", kFlatDown | B::kDisabled | hot | out, 0, single(Frame::Shadow),
-         flatDown, gray},
-        {"flat down, frameless", kFlatDown | B::kNoRestingFrame, 0, {}, flatDown, text},
-        {"frameless on a hot face",
-         kFlatDown | B::kNoRestingFrame,
-         0,
-         {},
-         flatDown,
-         black,
-         -1,
-         HotFace()},
-        {"frameless, hot", kFlatDown | B::kNoRestingFrame | hot, 0, single(Frame::Hot), flatDown,
-         black},
-        {"flat up", B::kUpArrow | flat, 0, single(Frame::Window), flatUp, text},
-        {"flat up, pressed", B::kUpArrow | flat | B::kPressed, 0, single(Frame::Window), flatUp,
-         pressedGlyph},
-        {"no glyph", B::kNoGlyph | B::kDisabled, 0, single(Frame::Raised), {}, 0},
-        {"unknown kind", 6, 0, single(Frame::Raised), {}, 0},
-        {"unknown kind, flat", 0xFF | flat, 0, single(Frame::Window), {}, 0},
-        {"classic spin",
-         B::kSpinPair,
-         0,
-         {{Frame::Raised, upper}, {Frame::Raised, lower}},
-         raisedSpin,
-         text},
-        {"classic spin, odd height",
-         B::kSpinPair | odd,
-         0,
-         {{Frame::Raised, upper}, {Frame::Raised, {0, 11, 17, 21}}},
-         raisedSpin,
-         text,
-         10},
-        {"classic spin, upper pressed",
-         B::kSpinPair,
-         B::kSpinPair | B::kPressed,
-         {{Frame::Pushed, upper}},
-         Arrow(9, 4, 3, false),
-         text},
-        {"classic spin, lower pressed",
-         B::kSpinPair,
-         B::kSpinPair | B::kSecondPressed,
-         {{Frame::Pushed, lower}},
-         Arrow(9, 17, 3, true),
-         text},
-        {"flat spin", B::kSpinPair | flat | out, 0, spin(Frame::Shadow), flatSpin, text},
-        {"flat spin, hot", B::kSpinPair | hot, 0, spin(Frame::Hot), flatSpin, black},
-        {"flat spin, upper pressed",
-         B::kSpinPair | hot | B::kPressed,
-         0,
-         {{Frame::HotPressed, flatUpper}},
-         Arrow(8, 4, 3, false),
-         pressedGlyph},
-        {"flat spin, lower pressed",
-         B::kSpinPair | flat | B::kSecondPressed,
-         0,
-         {{Frame::Window, lower}},
-         Arrow(8, 16, 3, true),
-         pressedGlyph},
+        {down, 0, raised, {whole}, downGlyph, text},
+        {down, down | press, sunken, {whole}, downSunken, text},
+        {down | press2, 0, sunken, {whole}, downSunken, text},
+        {down | off, 0, raised, {whole}, downGlyph, gray},
+        {down | B::kHot, 0, raised, {whole}, downGlyph, text}, // never hot
+        {up, 0, raised, {whole}, Arrow(8, 8, 4, false), text},
+        {up | press, 0, sunken, {whole}, Arrow(9, 9, 4, false), text},
+        {up | off | flat, down, raised, {whole}, downGlyph, text}, // a state replaces the flags
+        {cross, 0, raised, {whole}, crossGlyph, text},
+        {cross | press, 0, sunken, {whole}, crossSunken, text},
+        {cross | flat, 0, window, {whole}, crossFlat, text},
+        {cross | over, 0, hot, {whole}, crossFlat, black},
+        {down | flat, 0, window, {whole}, downFlat, text},
+        {down | flat | out, 0, shadow, {whole}, downFlat, text},
+        {down, down | flat | out, window, {whole}, downFlat, text}, // but not for the frame
+        {down | flat, down | over, hot, {whole}, downFlat, black},
+        {down | over | press, 0, held, {whole}, downFlat, light},
+        {down | flat | press, 0, window, {whole}, downFlat, light},
+        {down | over | off | out, 0, shadow, {whole}, downFlat, gray},
+        {down | flat | bare, 0, window, {}, downFlat, text},
+        {down | flat | bare, 0, window, {}, downFlat, black, HotFace()}, // the device shows it
+        {down | over | bare, 0, hot, {whole}, downFlat, black},
+        {up | flat, 0, window, {whole}, upFlat, text},
+        {off, 0, raised, {whole}, {}, 0}, // no glyph
+        {6, 0, raised, {whole}, {}, 0},
+        {0xFF | flat, 0, window, {whole}, {}, 0},
+        {spin, 0, raised, {upper, lower}, spinGlyph, text},
+        {spin, spin | press, sunken, {upper}, Arrow(9, 4, 3, false), text},
+        {spin, spin | press2, sunken, {lower}, Arrow(9, 17, 3, true), text},
+        {spin | flat | out, 0, shadow, {flatUpper, lower}, spinFlat, text},
+        {spin | over, 0, hot, {flatUpper, lower}, spinFlat, black},
+        {spin | over | press, 0, held, {flatUpper}, Arrow(8, 4, 3, false), light},
+        {spin | flat | press2, 0, window, {lower}, Arrow(8, 16, 3, true), light},
     };
-    for (const Drawing& drawing : table)
-        ExpectDrawing(drawing);
+    for (const Drawing& drawing : table) {
+        const Canvas shown(24, 26, drawing.before);
+        const Canvas expected(24, 26, drawing.before);
+        B(drawing.own, {kLeft, kTop, kLeft + 17, kTop + 20}).Draw(shown.dc(), drawing.state);
+        DrawExpected(expected.dc(), drawing);
+        EXPECT_EQ(shown.Snapshot(), expected.Snapshot()) << "row " << &drawing - table;
+    }
 }
 
-TEST(DrawButton, ClassicOutsideAToolbarHasALineAboveAndToTheLeft) {
+TEST(DrawButton, ClassicLines) {
+    const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
     const Canvas shown(17, 20);
     const Canvas expected(17, 20);
     B(B::kDownArrow | B::kOutsideToolbar, {0, 0, 17, 20}).Draw(shown.dc(), B::kDownArrow);
     B(B::kDownArrow, {1, 1, 17, 20}).Draw(expected.dc(), 0);
     for (int i = 0; i < 20; ++i) {
-        ::SetPixel(expected.dc(), i, 0, ::GetSysColor(COLOR_BTNFACE));
-        ::SetPixel(expected.dc(), 0, i, ::GetSysColor(COLOR_BTNFACE));
+        ::SetPixel(expected.dc(), i, 0, face);
+        ::SetPixel(expected.dc(), 0, i, face);
     }
     ::SetPixel(expected.dc(), 16, 0, ::GetSysColor(COLOR_3DDKSHADOW));
-    EXPECT_EQ(shown.Snapshot(), expected.Snapshot());
+    EXPECT_EQ(shown.Snapshot(), expected.Snapshot()) << "above and to the left, outside a toolbar";
+
+    const Canvas odd(17, 21);
+    B(B::kSpinPair, {0, 0, 17, 21}).Draw(odd.dc(), 0);
+    EXPECT_EQ(odd.Count(face, {0, 10, 17, 11}), 17) << "between halves of one height";
 }
 
 TEST(DrawButton, EllipsisIsTextThatShiftsWhenPressed) {
-    struct Place {
-        UINT flags;
-        int left, bottom;
-        COLORREF color;
-    };
-    const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
-    const Place table[] = {{B::kEllipsis, 1, 20, text},
-                           {B::kEllipsis | B::kPressed, 2, 21, text},
-                           {B::kEllipsis | B::kFlat, 2, 20, text},
-                           {B::kEllipsis | B::kFlat | B::kPressed, 2, 20, 0x00F0F0F0}};
-    for (const Place& place : table) {
+    constexpr UINT dots = B::kEllipsis;
+    constexpr COLORREF black = RGB(0, 0, 0);
+    for (const auto& [flags, left, bottom, color] :
+         {std::tuple(dots, 1, 20, black), std::tuple(dots | B::kPressed, 2, 21, black),
+          std::tuple(dots | B::kFlat, 2, 20, black),
+          std::tuple(dots | B::kFlat | B::kPressed, 2, 20, COLORREF{0xF0F0F0})}) {
         const Canvas shown(40, 26);
         const Canvas expected(40, 26);
-        B(place.flags, {0, 0, 30, 20}).Draw(shown.dc(), 0);
-        B(place.flags & ~B::kKindMask, {0, 0, 30, 20}).Draw(expected.dc(), 0);
-        RECT rect = {place.left, 0, 30, place.bottom};
+        B(flags, {0, 0, 30, 20}).Draw(shown.dc(), 0);
+        B(flags & ~B::kKindMask, {0, 0, 30, 20}).Draw(expected.dc(), 0);
+        RECT rect = {left, 0, 30, bottom};
         ::SetBkMode(expected.dc(), TRANSPARENT);
-        ::SetTextColor(expected.dc(), place.color);
+        ::SetTextColor(expected.dc(), color);
         ::DrawTextA(expected.dc(), "...", 3, &rect, DT_SINGLELINE | DT_BOTTOM);
-        EXPECT_EQ(shown.Snapshot(), expected.Snapshot()) << std::hex << place.flags;
+        EXPECT_EQ(shown.Snapshot(), expected.Snapshot()) << std::hex << flags;
         EXPECT_EQ(::GetBkMode(shown.dc()), OPAQUE);
-        EXPECT_EQ(::GetTextColor(shown.dc()), RGB(0, 0, 0));
+        EXPECT_EQ(::GetTextColor(shown.dc()), black);
     }
 }
 
@@ -302,9 +205,9 @@ TEST(DrawButton, NonsenseDrawsNothingAndLosesNothing) {
     const Canvas canvas(30, 30);
     const Canvas untouched(30, 30);
     const GdiLedger ledger;
-    constexpr LONG far_ = 0x7FFFFFFF;
-    for (const RECT& rect : {RECT{-far_ - 1, -far_ - 1, far_, far_}, RECT{far_, far_, far_, far_},
-                             RECT{0, 0, far_, 20}, RECT{0, -far_ - 1, 17, 20}})
+    constexpr LONG end = 0x7FFFFFFF;
+    for (const RECT& rect : {RECT{-end - 1, -end - 1, end, end}, RECT{end, end, end, end},
+                             RECT{0, 0, end, 20}, RECT{0, -end - 1, 17, 20}})
         for (UINT kind = 0; kind < 10; ++kind)
             B(kind | B::kOutsideToolbar, rect).Draw(canvas.dc(), 0);
     EXPECT_EQ(canvas.Snapshot(), untouched.Snapshot());
@@ -337,33 +240,31 @@ TEST(DrawButton, SeventyThousandPaintsLoseNothing) {
 class LoggedButton : public CDrawButton {
 public:
     using CDrawButton::CDrawButton;
-
     void Draw(HDC dc, UINT state) const override {
         m_states.push_back(state);
         CDrawButton::Draw(dc, state);
     }
-
     mutable std::vector<UINT> m_states;
 };
 
 constexpr UINT_PTR kScriptTimer = 1;
-constexpr UINT kRepeat = 0x00070003; // lower code 7, upper code 3
+constexpr UINT kRepeat = 0x00070003; // code 3 for the upper half, 7 for the lower
+using Script = std::vector<std::function<void()>>;
 
 /// A window with a button, and a script: one step is run at a time, also inside the click loop.
 class Host : public CWnd {
 public:
-    explicit Host(UINT flags, DWORD style = WS_POPUP, int left = 100)
-        : m_button(flags,
-                   (flags & B::kNonClient) != 0 ? RECT{40, 4, 57, 24} : RECT{20, 10, 37, 30}) {
+    explicit Host(UINT flags, int left = 100)
+        : m_inFrame((flags & B::kNonClient) != 0),
+          m_button(flags, m_inFrame ? RECT{40, 4, 57, 24} : RECT{20, 10, 37, 30}) {
         CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)),
-                 "host", style | WS_VISIBLE, CRect(CPoint(left, 100), CSize(160, 120)), nullptr, 0);
+                 "host", WS_POPUP | WS_VISIBLE | (m_inFrame ? WS_CAPTION | WS_THICKFRAME : 0),
+                 CRect(CPoint(left, 100), CSize(160, 120)), nullptr, 0);
         ::SetForegroundWindow(m_hWnd);
-        SetFocus();
         ::SetDoubleClickTime(1); // each press is one of its own
         Point(300, 200);
         PumpFor(30);
     }
-
     ~Host() override {
         automation::ReleaseMouse();
         DestroyWindow();
@@ -371,16 +272,16 @@ public:
         PumpFor(30);
     }
 
-    /// Moves the mouse, in the button's coordinates from its upper left corner.
+    /// Moves the mouse; from the button's upper left corner.
     void Point(int x, int y) const {
         CRect window;
         GetWindowRect(window);
-        automation::MoveMouse(
-            {window.left + m_button.GetRect().left + x, window.top + m_button.GetRect().top + y});
+        const RECT& place = m_button.GetRect();
+        automation::MoveMouse({window.left + place.left + x, window.top + place.top + y});
     }
 
     /// Presses at a point of the button, then runs the steps; waits for the end of the click.
-    UINT Click(int x, int y, const std::vector<std::function<void()>>& steps) {
+    UINT Click(int x, int y, const Script& steps) {
         Point(x, y);
         PumpFor(30);
         m_button.m_states.clear();
@@ -394,30 +295,23 @@ public:
         return m_result;
     }
 
-    COLORREF At(int x, int y) const {
-        return automation::CaptureWindow(m_hWnd).At(m_button.GetRect().left + x,
-                                                    m_button.GetRect().top + y);
-    }
-
+    bool m_inFrame;
     LoggedButton m_button;
     UINT m_repeatTimer = 0;
-    UINT m_result = 0;
-    bool m_clicked = false;
     int m_keys = 0;
     int m_repeats = 0;
 
 protected:
     afx_msg void OnPaint() {
         CPaintDC dc(this);
-        if ((m_button.GetFlags() & B::kNonClient) == 0)
+        if (!m_inFrame)
             m_button.CDrawButton::Draw(dc, 0);
     }
     afx_msg void OnNcPaint() {
         Default();
-        if ((m_button.GetFlags() & B::kNonClient) != 0) {
-            CWindowDC dc(this);
+        CWindowDC dc(this);
+        if (m_inFrame)
             m_button.CDrawButton::Draw(dc, 0);
-        }
     }
     afx_msg void OnMouseMove(UINT, CPoint point) {
         m_button.OnMouseMove(m_hWnd, FromClient(point));
@@ -429,14 +323,14 @@ protected:
     afx_msg void OnNcLButtonDown(UINT, CPoint point) { Track(FromScreen(point)); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { ++m_keys; }
     afx_msg void OnTimer(UINT_PTR timer) {
-        if (timer == kRepeat) {
+        if (timer == kRepeat)
             ++m_repeats;
-        } else if (timer == kScriptTimer && !m_script.empty()) {
+        else if (timer != kScriptTimer)
+            Default();
+        else if (!m_script.empty()) {
             const auto step = m_script.front();
             m_script.erase(m_script.begin());
             step();
-        } else {
-            Default();
         }
     }
     DECLARE_MESSAGE_MAP()
@@ -448,7 +342,7 @@ private:
         return point - window.TopLeft();
     }
     CPoint FromClient(CPoint point) const {
-        if ((m_button.GetFlags() & B::kNonClient) == 0)
+        if (!m_inFrame)
             return point;
         ClientToScreen(&point);
         return FromScreen(point);
@@ -460,7 +354,9 @@ private:
         m_clicked = true;
     }
 
-    std::vector<std::function<void()>> m_script;
+    Script m_script;
+    UINT m_result = 0;
+    bool m_clicked = false;
 };
 
 BEGIN_MESSAGE_MAP(Host, CWnd)
@@ -474,63 +370,80 @@ BEGIN_MESSAGE_MAP(Host, CWnd)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
-TEST(DrawButton, ClickLoopEndsAsThePersonEndsIt) {
-    for (const UINT place : {0U, B::kNonClient}) {
-        const UINT own = B::kDownArrow | place;
-        const UINT down = own | B::kPressed;
-        const UINT clicked = B::kDownArrow | B::kPressed;
-        Host other(0, WS_POPUP, 500);
-        Host host(own, WS_POPUP | (place != 0 ? WS_CAPTION | WS_THICKFRAME : 0));
-        const auto release = [] { automation::ReleaseMouse(); };
-        const auto out = [&] { host.Point(-9, 5); };
-        const auto in = [&] { host.Point(5, 5); };
+class DrawButtonIn : public testing::TestWithParam<UINT> {};
 
-        struct Row {
-            const char* name;
-            POINT press;
-            std::vector<std::function<void()>> steps;
-            UINT result;
-            std::vector<UINT> states;
-        };
-        const Row table[] = {
-            {"released inside", {5, 5}, {release}, clicked, {down, 0}},
-            {"released outside", {5, 5}, {out, release}, 0, {down, own}},
-            {"out and in again", {5, 5}, {out, in, release}, clicked, {down, own, down, 0}},
-            {"pressed outside", {-9, 5}, {in, release}, clicked, {down, 0}},
-            {"the last row and column", {16, 19}, {release}, clicked, {down, 0}},
-            {"right of the last column", {17, 19}, {release}, 0, {}},
-            {"escape", {5, 5}, {[] { automation::TypeKey(VK_ESCAPE); }}, 0, {down, 0}},
-            {"another key",
-             {5, 5},
-             {[] { automation::PressKey('A'); }, release},
-             clicked,
-             {down, 0}},
-            {"right button",
-             {5, 5},
-             {[] { automation::PressMouse(automation::MouseButton::Right); }},
-             0,
-             {down, 0}},
-            {"cancelled", {5, 5}, {[&] { host.PostMessage(WM_CANCELMODE); }}, 0, {down, 0}},
-            {"cancelled by the system",
-             {5, 5},
-             {[&] { host.SendMessage(WM_CANCELMODE); }},
-             0,
-             {down, 0}},
-            {"capture stolen", {5, 5}, {[&] { other.SetCapture(); }}, 0, {down, 0}},
-        };
-        for (const Row& row : table) {
-            SCOPED_TRACE(std::string(row.name) + (place != 0 ? ", in the frame" : ""));
-            EXPECT_EQ(host.Click(row.press.x, row.press.y, row.steps), row.result);
-            EXPECT_EQ(host.m_button.m_states, row.states);
-            const HWND captured = ::GetCapture();
-            EXPECT_EQ(captured, row.name == std::string("capture stolen") ? other.m_hWnd : nullptr);
-            ::ReleaseCapture();
-            automation::ReleaseMouse(automation::MouseButton::Right);
-            automation::ReleaseKey('A');
-        }
-        EXPECT_EQ(host.m_keys, 0) << "keys are swallowed";
+TEST_P(DrawButtonIn, ClickLoopEndsAsThePersonEndsIt) {
+    const UINT own = B::kDownArrow | GetParam();
+    const UINT down = own | B::kPressed;
+    const UINT clicked = B::kDownArrow | B::kPressed;
+    Host other(0, 500);
+    Host host(own);
+    const auto release = [] { automation::ReleaseMouse(); };
+    const auto out = [&] { host.Point(-9, 5); };
+    const auto in = [&] { host.Point(5, 5); };
+    const auto escape = [] { automation::TypeKey(VK_ESCAPE); };
+    const auto key = [] { automation::PressKey('A'); };
+    const auto right = [] { automation::PressMouse(automation::MouseButton::Right); };
+    const auto cancel = [&] { host.PostMessage(WM_CANCELMODE); };
+    const auto systemCancel = [&] { host.SendMessage(WM_CANCELMODE); };
+    const auto steal = [&] { other.SetCapture(); };
+
+    struct Row {
+        POINT press;
+        Script steps;
+        UINT result;
+        std::vector<UINT> states;
+    };
+    const Row table[] = {
+        {{5, 5}, {release}, clicked, {down, 0}},
+        {{5, 5}, {out, release}, 0, {down, own}},
+        {{5, 5}, {out, in, release}, clicked, {down, own, down, 0}},
+        {{-9, 5}, {in, release}, clicked, {down, 0}},
+        {{16, 19}, {release}, clicked, {down, 0}},
+        {{17, 19}, {release}, 0, {}},
+        {{5, 5}, {escape}, 0, {down, 0}},
+        {{5, 5}, {key, release}, clicked, {down, 0}},
+        {{5, 5}, {right}, 0, {down, 0}},
+        {{5, 5}, {cancel}, 0, {down, 0}},
+        {{5, 5}, {systemCancel}, 0, {down, 0}},
+        {{5, 5}, {steal}, 0, {down, 0}},
+    };
+    for (const Row& row : table) {
+        SCOPED_TRACE(&row - table);
+        EXPECT_EQ(host.Click(row.press.x, row.press.y, row.steps), row.result);
+        EXPECT_EQ(host.m_button.m_states, row.states);
+        EXPECT_EQ(::GetCapture(), &row == std::end(table) - 1 ? other.m_hWnd : nullptr);
+        ::ReleaseCapture();
+        automation::ReleaseMouse(automation::MouseButton::Right);
+        automation::ReleaseKey('A');
     }
+    EXPECT_EQ(host.m_keys, 0) << "keys are swallowed";
 }
+
+TEST_P(DrawButtonIn, FollowsTheMouseInTheFlatLook) {
+    const UINT flags = kFlatDown | GetParam();
+    Host host(flags);
+    const auto comesToShow = [&](COLORREF color) {
+        const RECT& place = host.m_button.GetRect();
+        return PumpUntil([&] {
+            return automation::CaptureWindow(host).At(place.left + 1, place.top + 1) == color;
+        });
+    };
+    EXPECT_TRUE(comesToShow(::GetSysColor(COLOR_BTNFACE)));
+    host.Point(5, 5);
+    EXPECT_TRUE(comesToShow(HotFace()));
+    EXPECT_EQ(host.m_button.GetFlags(), flags | B::kHot);
+    host.Point(9, 9);
+    PumpFor(60);
+    EXPECT_EQ(host.m_button.m_states, std::vector<UINT>{0}) << "drawn once";
+    host.Point(300, 200); // another window: only the timer tells
+    EXPECT_TRUE(comesToShow(::GetSysColor(COLOR_BTNFACE)));
+    EXPECT_EQ(host.m_button.GetFlags(), flags);
+    EXPECT_FALSE(::KillTimer(host, B::kHoverTimer)) << "the timer has gone";
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, DrawButtonIn, testing::Values(0U, B::kNonClient),
+                         [](const auto& info) { return info.param == 0 ? "Client" : "Frame"; });
 
 TEST(DrawButton, NoClickOfADisabledButtonOrACapturedMouse) {
     Host host(B::kDownArrow | B::kDisabled);
@@ -543,42 +456,35 @@ TEST(DrawButton, NoClickOfADisabledButtonOrACapturedMouse) {
     EXPECT_TRUE(host.m_button.m_states.empty());
 }
 
-TEST(DrawButton, HostMayGoInTheClickLoop) {
+TEST(DrawButton, ProgramOrWindowMayEndInTheClickLoop) {
     Host host(B::kDownArrow);
-    host.Point(5, 5);
+    ::PostQuitMessage(7);
+    EXPECT_EQ(host.m_button.TrackClick(host, {25, 15}), 0u);
+    MSG message = {};
+    EXPECT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "passed on";
+    EXPECT_EQ(message.wParam, 7u);
+
     EXPECT_EQ(host.Click(5, 5, {[&] { host.DestroyWindow(); }}), 0u);
     EXPECT_EQ(host.m_button.m_states.size(), 1u) << "not drawn without a window";
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST(DrawButton, QuitInTheClickLoopReachesTheOuterLoop) {
-    Host host(B::kDownArrow);
-    ::PostQuitMessage(7);
-    EXPECT_EQ(host.m_button.TrackClick(host, {25, 15}), 0u);
-    MSG message = {};
-    EXPECT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_EQ(message.wParam, 7u);
-}
-
 TEST(DrawButton, SpinHalvesAreButtonsOfTheirOwn) {
     Host host(B::kSpinPair);
     const UINT own = B::kSpinPair;
+    const UINT lower = own | B::kSecondPressed;
     const auto release = [] { automation::ReleaseMouse(); };
     const auto toUpper = [&] { host.Point(5, 9); };
     const auto toLower = [&] { host.Point(5, 10); };
     EXPECT_EQ(host.Click(5, 9, {release}), own | B::kPressed);
-    EXPECT_EQ(host.m_button.m_states, (std::vector<UINT>{own | B::kPressed, 0}));
-    EXPECT_EQ(host.Click(5, 10, {toUpper, toLower, release}), own | B::kSecondPressed);
-    EXPECT_EQ(host.m_button.m_states,
-              (std::vector<UINT>{own | B::kSecondPressed, own, own | B::kSecondPressed, 0}));
-    EXPECT_EQ(host.Click(5, 5, {toLower, release}), 0u) << "the other half is outside";
+    EXPECT_EQ(host.Click(5, 10, {toUpper, toLower, release}), lower);
+    EXPECT_EQ(host.m_button.m_states, (std::vector<UINT>{lower, own, lower, 0}));
 
     host.m_repeatTimer = kRepeat;
     int atLeaving = 0;
-    const auto leave = [&] { host.Point(-9, 5); };
     const auto idle = [] {};
     const auto note = [&] { atLeaving = host.m_repeats; };
-    host.Click(5, 5, {idle, idle, idle, idle, leave, note, idle, idle, idle, release});
+    host.Click(5, 5, {idle, idle, idle, idle, toLower, note, idle, idle, idle, release});
     EXPECT_EQ(B::RepeatCode(), 3);
     EXPECT_GT(atLeaving, 0) << "repeats over the half";
     EXPECT_LE(host.m_repeats, atLeaving + 1) << "and nowhere else";
@@ -587,32 +493,6 @@ TEST(DrawButton, SpinHalvesAreButtonsOfTheirOwn) {
     EXPECT_EQ(host.m_repeats, atEnd) << "the timer has been stopped";
     host.Click(5, 15, {release});
     EXPECT_EQ(B::RepeatCode(), 7);
-}
-
-TEST(DrawButton, FollowsTheMouseInTheFlatLook) {
-    for (const UINT place : {0U, B::kNonClient}) {
-        SCOPED_TRACE(place);
-        Host host(kFlatDown | place, WS_POPUP | (place != 0 ? WS_CAPTION | WS_THICKFRAME : 0));
-        const COLORREF resting = ::GetSysColor(COLOR_BTNFACE);
-        const auto comesToShow = [&](COLORREF color) {
-            return PumpUntil([&] { return host.At(1, 1) == color; });
-        };
-        EXPECT_TRUE(comesToShow(resting));
-        host.Point(5, 5);
-        EXPECT_TRUE(comesToShow(HotFace()));
-        EXPECT_EQ(host.m_button.GetFlags(), kFlatDown | place | B::kHot);
-        EXPECT_EQ(host.m_button.m_states, std::vector<UINT>{0}) << "drawn at once, and once";
-        host.Point(9, 9);
-        PumpFor(60);
-        host.Point(300, 200); // another window: only the timer tells
-        EXPECT_TRUE(comesToShow(resting));
-        EXPECT_EQ(host.m_button.GetFlags(), kFlatDown | place);
-        EXPECT_FALSE(::KillTimer(host, B::kHoverTimer)) << "the timer has gone";
-    }
-    Host classic(B::kDownArrow);
-    classic.Point(5, 5);
-    PumpFor();
-    EXPECT_EQ(classic.m_button.GetFlags(), B::kDownArrow);
 }
 
 } // namespace
