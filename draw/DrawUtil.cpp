@@ -14,6 +14,16 @@ struct MemoryDCDeleter {
     void operator()(HDC dc) const { ::DeleteDC(dc); }
 };
 
+RECT OnScreen(const RECT& rect) {
+    const int left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
+    const int top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
+    const RECT screen = {left, top, left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+                         top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+    RECT shown = {};
+    ::IntersectRect(&shown, &rect, &screen);
+    return shown;
+}
+
 using ScreenDC = std::unique_ptr<std::remove_pointer_t<HDC>, ScreenDCReleaser>;
 using MemoryDC = std::unique_ptr<std::remove_pointer_t<HDC>, MemoryDCDeleter>;
 
@@ -40,7 +50,11 @@ HBITMAP CopyScreenToBitmap(const RECT& rect) {
     const HBITMAP bitmap = ::CreateCompatibleBitmap(screen.get(), width, height);
     if (bitmap != nullptr) {
         const HGDIOBJ previous = ::SelectObject(memory.get(), bitmap);
-        ::BitBlt(memory.get(), 0, 0, width, height, screen.get(), rect.left, rect.top, SRCCOPY);
+        // Some systems copy nothing at all when a part of the area lies off the screen.
+        const RECT shown = OnScreen(rect);
+        ::BitBlt(memory.get(), shown.left - rect.left, shown.top - rect.top,
+                 shown.right - shown.left, shown.bottom - shown.top, screen.get(), shown.left,
+                 shown.top, SRCCOPY);
         ::SelectObject(memory.get(), previous);
     }
     return bitmap;

@@ -12,7 +12,7 @@
 /// @param down  true to point down
 void DrawArrowTriangle(HDC dc, int x, int y, int size, bool down);
 
-/// Copies what the screen shows.
+/// Copies what the screen shows; what lies off the screen stays black.
 /// @param rect  screen coordinates
 /// @return a screen-compatible bitmap of the size of `rect`, owned by the caller (DeleteObject); null
 ///         when it cannot be made

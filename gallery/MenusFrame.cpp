@@ -48,7 +48,7 @@ void CMenusFrame::OnDestroy() {
 
 void CMenusFrame::SetStates() {
     CMenu* const menu = GetMenu();
-    menu->SetDefaultItem(IDM_PROJECT_OPEN);
+    menu->GetSubMenu(0)->SetDefaultItem(IDM_PROJECT_OPEN);
     menu->CheckMenuItem(IDM_SHOW_GRID, MF_CHECKED);
     menu->CheckMenuItem(IDM_SNAP, MF_CHECKED);
     menu->CheckMenuRadioItem(IDM_METRIC, IDM_INCHES, IDM_METRIC, MF_BYCOMMAND);

@@ -40,7 +40,7 @@ CommandImages::CommandImages(CWnd& window) {
         m_bars = &parent->m_listControlBars;
 }
 
-CImgDesc CommandImages::Find(UINT command) const {
+CommandImages::Found CommandImages::Find(UINT command) const {
     POSITION position = m_bars == nullptr ? nullptr : m_bars->GetHeadPosition();
     while (position != nullptr) {
         const auto* const bar = static_cast<const CControlBar*>(m_bars->GetNext(position));
@@ -49,7 +49,7 @@ CImgDesc CommandImages::Find(UINT command) const {
             continue;
         const CImgDesc image = ImageOf(window, command);
         if (image.index != -1)
-            return image; // also without a list: this bar has the button
+            return {image, window}; // also without a list: this bar has the button
     }
     return {};
 }

@@ -18,8 +18,13 @@ public:
     /// window around it (for what is inside an MDI child: of the MDI frame window).
     explicit CommandImages(CWnd& window);
 
+    struct Found {
+        CImgDesc image;         ///< none: no toolbar has a button of that command
+        HWND toolbar = nullptr; ///< whose image it is
+    };
+
     /// The image that the first toolbar with a button of that command has for it.
-    CImgDesc Find(UINT command) const;
+    Found Find(UINT command) const;
 
 private:
     const CPtrList* m_bars = nullptr; ///< CControlBar objects; null: none

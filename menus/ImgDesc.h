@@ -3,8 +3,7 @@
 
 #include <afxcmn.h>
 
-/// The image of a menu or toolbar command.  Copied by value; the image list is not owned and has to
-/// live as long as a menu shows images of it.
+/// The image of a menu or toolbar command.  Copied by value; the image list is not owned.
 struct CImgDesc {
     HIMAGELIST imageList = nullptr; ///< null: no image
     int index = -1;                 ///< position in the list; -1: no image

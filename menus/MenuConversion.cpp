@@ -26,8 +26,9 @@ public:
         m_info.cbSize = sizeof m_info;
         m_info.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_FTYPE | MIIM_STRING | MIIM_BITMAP;
         m_info.dwTypeData = m_caption;
-        m_info.cch = sizeof m_caption - 1;
+        m_info.cch = kCaptionSize;
         m_read = ::GetMenuItemInfoA(menu, m_position, TRUE, &m_info) != FALSE;
+        m_caption[kCaptionSize - 1] = '\0'; // some systems leave a cut text without its end
     }
 
     MenuItem(const MenuItem&) = delete;
@@ -40,13 +41,18 @@ public:
     const MENUITEMINFOA& Info() const { return m_info; }
     LPCSTR Caption() const { return m_caption; }
 
-    void MakeOwnerDrawn() { Write(MIIM_FTYPE, m_info.fType | MFT_OWNERDRAW, MenuItemData(0)); }
+    void MakeOwnerDrawn() { Write(MIIM_FTYPE, OwnerDrawnType(), MenuItemData(0)); }
     void MakeOwnerDrawn(MenuItemData data) {
-        Write(MIIM_FTYPE | MIIM_DATA, m_info.fType | MFT_OWNERDRAW, data);
+        Write(MIIM_FTYPE | MIIM_DATA, OwnerDrawnType(), data);
     }
     void SetData(MenuItemData data) { Write(MIIM_DATA, 0, data); }
 
 private:
+    static constexpr UINT kCaptionSize = 255; ///< bytes, with the terminator
+
+    /// A bitmap is no type any more where it is asked for apart; it stays with the item.
+    UINT OwnerDrawnType() const { return (m_info.fType & ~UINT{MFT_BITMAP}) | MFT_OWNERDRAW; }
+
     void Write(UINT mask, UINT type, MenuItemData data) const {
         MENUITEMINFOA info = {};
         info.cbSize = sizeof info;
@@ -58,7 +64,7 @@ private:
 
     HMENU m_menu;
     UINT m_position;
-    char m_caption[256] = {};
+    char m_caption[kCaptionSize + 1] = {};
     MENUITEMINFOA m_info = {};
     bool m_read = false;
 };
@@ -115,9 +121,9 @@ private:
             return;
         auto& records = tint::MenuRecords::Get();
         records.SetText(item.Info(), item.Caption());
-        const CImgDesc image = m_images.Find(item.Info().wID);
-        if (image.index != -1)
-            records.SetImage(item.Info(), image);
+        const auto found = m_images.Find(item.Info().wID);
+        if (found.toolbar != nullptr)
+            records.SetImage(item.Info(), found.image, found.toolbar);
     }
 
     int BarLabelWidth(LPCSTR caption) {

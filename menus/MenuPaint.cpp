@@ -11,6 +11,14 @@ namespace {
 
 constexpr int kShadow = 4; // pixels
 
+/// Whether a rectangle lies where GDI can draw at all (coordinates of 27 bits); what does not is not
+/// worth calculating with.
+bool IsDrawable(const RECT& rect) {
+    constexpr LONG farthest = 1 << 26;
+    const auto isNear = [](LONG side) { return side >= -farthest && side <= farthest; };
+    return isNear(rect.left) && isNear(rect.top) && isNear(rect.right) && isNear(rect.bottom);
+}
+
 // --- The gradient -------------------------------------------------------------------------------
 
 /// The steps of a gradient.
@@ -155,6 +163,8 @@ void DarkenEdge(HDC source, HDC target, const Edge& edge) {
 } // namespace
 
 void DrawGradient(HDC dc, COLORREF start, COLORREF end, const RECT& rect) {
+    if (!IsDrawable(rect))
+        return;
     const Steps steps(start, end, rect.right - rect.left);
     if (steps.Count() == 0) {
         FillSolid(dc, rect, start);
@@ -181,7 +191,7 @@ void DrawGradient(HDC dc, COLORREF start, COLORREF end, const RECT& rect) {
 }
 
 void DrawMenuShadow(HDC source, HDC target, const RECT& rect) {
-    if (rect.right <= 0 || rect.bottom <= 0)
+    if (!IsDrawable(rect))
         return;
     // One after the other: where a tiny popup's edges meet, the second darkens the first's pixels.
     DarkenEdge(source, target, BottomEdge{rect});
@@ -191,6 +201,8 @@ void DrawMenuShadow(HDC source, HDC target, const RECT& rect) {
 namespace tint {
 
 void DrawBarItemShadow(HDC dc, const RECT& strip) {
+    if (!IsDrawable(strip))
+        return;
     DarkenEdge(dc, dc,
                RightEdge{static_cast<int>(strip.right), static_cast<int>(strip.top),
                          static_cast<int>(strip.bottom - strip.top)});

@@ -34,7 +34,8 @@ void MenuRecords::SetText(const MENUITEMINFOA& item, CString text) {
         textOfCommand.SetAt(CommandOf(item), text);
 }
 
-void MenuRecords::SetImage(const MENUITEMINFOA& item, CImgDesc image) {
+void MenuRecords::SetImage(const MENUITEMINFOA& item, CImgDesc image, HWND toolbar) {
+    toolbarOfList.SetAt(image.imageList, toolbar);
     if (item.hSubMenu != nullptr)
         imageOfSubmenu.SetAt(item.hSubMenu, image);
     else
@@ -56,7 +57,15 @@ CImgDesc MenuRecords::Image(const MENUITEMINFOA& item) const {
         imageOfSubmenu.Lookup(item.hSubMenu, image);
     else
         imageOfCommand.Lookup(CommandOf(item), image);
-    return image;
+    return IsAlive(image) ? image : CImgDesc();
+}
+
+bool MenuRecords::IsAlive(const CImgDesc& image) const {
+    HWND toolbar = nullptr;
+    if (!toolbarOfList.Lookup(image.imageList, toolbar))
+        return true; // none to ask
+    const LRESULT list = ::SendMessageA(toolbar, TB_GETIMAGELIST, 0, 0);
+    return reinterpret_cast<HIMAGELIST>(list) == image.imageList;
 }
 
 void MenuRecords::PurgeDeadSubmenus() {

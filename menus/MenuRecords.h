@@ -19,22 +19,29 @@ struct MenuRecords {
     CMap<HMENU, HMENU, CString, CString&> textOfSubmenu;
     CMap<int, int, CImgDesc, CImgDesc&> imageOfCommand;
     CMap<HMENU, HMENU, CImgDesc, CImgDesc&> imageOfSubmenu;
+    CMap<HIMAGELIST, HIMAGELIST, HWND, HWND> toolbarOfList; ///< whose image list it is
 
     static MenuRecords& Get();
 
     /// @name By an item of which the system has filled in wID and hSubMenu
     /// @{
     void SetText(const MENUITEMINFOA& item, CString text);
-    void SetImage(const MENUITEMINFOA& item, CImgDesc image);
+
+    /// @param toolbar  the window that lends the image
+    void SetImage(const MENUITEMINFOA& item, CImgDesc image, HWND toolbar);
 
     /// Empty when nothing was recorded.
     CString Text(const MENUITEMINFOA& item) const;
 
-    /// No image when none was recorded.
+    /// No image when none was recorded, or when the toolbar that lent it has gone or has another
+    /// image list now: a list that may be destroyed is not touched.
     CImgDesc Image(const MENUITEMINFOA& item) const;
     /// @}
 
     void PurgeDeadSubmenus();
+
+private:
+    bool IsAlive(const CImgDesc& image) const;
 };
 
 } // namespace tint

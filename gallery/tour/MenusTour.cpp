@@ -48,8 +48,9 @@ automation::Picture PictureFrom(HWND window, int width, int height) {
     return automation::CaptureScreen({rect.left, rect.top, rect.left + width, rect.top + height});
 }
 
-void CloseMenus() {
-    for (int i = 0; i < 3; ++i)
+/// @param levels  one for each popup and one for the bar: Escape too many would close a dialog
+void CloseMenus(int levels) {
+    for (int i = 0; i < levels; ++i)
         automation::TypeKey(VK_ESCAPE);
     WaitForPopups(0);
 }
@@ -71,13 +72,13 @@ void TourFrame(PictureTour& tour, HWND frame, const std::string& suffix) {
     automation::TypeKey(VK_DOWN);
     automation::WaitUntilSteady(frame);
     tour.Write(PictureFrom(frame, 330, 310), "menu-cascade" + suffix);
-    CloseMenus();
+    CloseMenus(3);
 
     automation::TypeKey('E', VK_MENU);
     WaitForPopups(1);
     automation::WaitUntilSteady(frame);
     tour.Write(PictureFrom(frame, 260, 190), "menu-disabled-gradient" + suffix);
-    CloseMenus();
+    CloseMenus(2);
 
     // At the right edge of the screen the popup moves to the left, away from its bar item.
     RECT rect = {};
@@ -90,7 +91,7 @@ void TourFrame(PictureTour& tour, HWND frame, const std::string& suffix) {
     automation::WaitUntilSteady(frame);
     tour.Write(automation::CaptureScreen({screen - 200, rect.top, screen, rect.top + 150}),
                "menu-right-edge" + suffix);
-    CloseMenus();
+    CloseMenus(2);
     ::PostMessageA(frame, WM_CLOSE, 0, 0);
 }
 
@@ -103,8 +104,8 @@ void TourContextMenu(PictureTour& tour, const std::string& suffix) {
     automation::TypeKey(VK_DOWN);
     automation::TypeKey(VK_DOWN);
     automation::WaitUntilSteady(popup);
-    tour.Write(tour.PictureOf(area), "menu-context" + suffix);
-    CloseMenus();
+    tour.Write(automation::WaitUntilSteady(tour.Gallery()), "menu-context" + suffix);
+    CloseMenus(1);
 }
 
 } // namespace

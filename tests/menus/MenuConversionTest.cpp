@@ -129,7 +129,7 @@ TEST(Conversion, RecordsSerializeAsMapsDo) {
     MENUITEMINFOA item = {};
     item.wID = 5;
     written.SetText(item, "&Text\tF1");
-    written.SetImage(item, {reinterpret_cast<HIMAGELIST>(0x77), 3});
+    written.imageOfCommand[5] = {reinterpret_cast<HIMAGELIST>(0x77), 3};
     CMemFile file;
     {
         CArchive archive(&file, CArchive::store);
@@ -193,11 +193,17 @@ TEST(ConversionImages, ComeFromTheFirstToolbarWithTheCommand) {
             EXPECT_FALSE(CMenuItemXP(menu, 3, true).HasImage());
         }
         tint::MenuRecords::Get().imageOfCommand.RemoveAll();
-        const TestMenu menu({"a"});
+        TestMenu menu({"a"});
         Convert(menu, nullptr);
         EXPECT_FALSE(CMenuItemXP(menu, 0, true).HasImage()) << "of no window";
+        ::ModifyMenuA(menu, 0, MF_BYPOSITION | MF_STRING, kFirst, "again");
         child.DestroyWindow();
+        Convert(menu, &frame);
     }
+    // The toolbars have gone, and their image lists with them.
+    const TestMenu menu({"a"});
+    Convert(menu, nullptr);
+    EXPECT_FALSE(CMenuItemXP(menu, 0, true).HasImage());
     frame.DestroyWindow();
 }
 

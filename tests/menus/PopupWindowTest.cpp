@@ -4,14 +4,12 @@
 
 #include "automation/RealInput.h"
 #include "automation/Steady.h"
-#include "automation/SystemColors.h"
-#include "draw/Hls.h"
 #include "menus/MenuState.h"
 #include "menus/OsClass.h"
 #include "menus/WndMenuXP.h"
+#include "tests/menus/MenuRules.h"
 #include "tests/menus/MenuTesting.h"
 #include "tests/support/Canvas.h"
-#include "tests/support/GdiLedger.h"
 #include "tests/support/Pump.h"
 
 using automation::Picture;
@@ -19,14 +17,6 @@ using automation::Picture;
 namespace {
 
 constexpr char kOldProc[] = "XPWndProp_OldProc";
-
-COLORREF System(int index) {
-    return ::GetSysColor(index);
-}
-
-COLORREF Face(int luminance) {
-    return AdjustColorLS(System(COLOR_BTNFACE), luminance, 0);
-}
 
 bool IsSubclassed(HWND popup) {
     return ::GetPropA(popup, kOldProc) != nullptr;
@@ -227,15 +217,6 @@ TEST(OsClass, IsTheFamilyOfTheVersion) {
 
 // --- The frame ----------------------------------------------------------------------------------
 
-COLORREF Shaded(COLORREF color, int row, int column) {
-    const int k = row == 0   ? 0
-                  : row == 1 ? (column >= 2 ? 1 : 0)
-                  : row == 2 ? std::min(column, 2)
-                             : column;
-    const int p = (3 - k) * 5 + 78;
-    return RGB(GetRValue(color) * p / 100, GetGValue(color) * p / 100, GetBValue(color) * p / 100);
-}
-
 /// The frame and shadow of a popup by the rule, over what `picture` shows where it lies.
 void PutFrame(Picture& picture, int shadow) {
     const int right = picture.width - shadow;
@@ -254,16 +235,10 @@ void PutFrame(Picture& picture, int shadow) {
             put(right - 1 - line, y, color);
         }
     }
-    if (shadow == 0)
-        return;
-    const int w = picture.width;
-    const int h = picture.height;
-    for (int i = 0; i < w - 1; ++i)
-        for (int j = i >= 2 ? std::max(i - w + 7, 0) : 2 - i; j < (i > w - 8 ? w - 4 - i : 4); ++j)
-            put(i + 4, h - 1 - j, Shaded(picture.At(i + 4, h - 1 - j), i, j));
-    for (int c = 0; c < 4; ++c)
-        for (int j = c < 2 ? 2 - c : 0; j < h - c - 4 - (c < 1 ? 2 : 1); ++j)
-            put(w - 1 - c, j + 4, Shaded(picture.At(w - 1 - c, j + 4), j, c));
+    if (shadow != 0)
+        ForShadow(picture.width, picture.height, [&](int x, int y, int row, int column) {
+            put(x, y, Shaded(picture.At(x, y), row, column));
+        });
 }
 
 void PutLine(Picture& picture, int from, int to, COLORREF color) {
@@ -347,9 +322,7 @@ TEST(PopupFrame, PrintsOverTheBackgroundTakenBefore) {
         const RECT rect = ScreenRect(popup);
         const Picture under = automation::CaptureScreen(rect);
         const Canvas canvas(under.width, under.height);
-        const HDC scratch = ::GetDC(nullptr);
         ::SendMessageA(popup, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.dc()), 0);
-        ::ReleaseDC(nullptr, scratch);
         tint::GetMenuState().openBarItem = {rect.left + 10, 0, rect.left + 40, rect.top + 1};
         ::SendMessageA(popup, WM_PRINT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_NONCLIENT);
         Picture want = under;
