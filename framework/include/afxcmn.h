@@ -5,3 +5,7 @@
 
 #include <afxwin.h>
 #include <commctrl.h>
+
+#include "afx/CHeaderCtrl.h"
+#include "afx/CImageList.h"
+#include "afx/CListCtrl.h"

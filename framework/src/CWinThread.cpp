@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <afxwin.h>
+#include <afxcmn.h>
 
 #include <memory>
 #include <process.h>
@@ -276,6 +276,7 @@ void DeleteTemporaryObjects() {
     CMenu::DeleteTempMap();
     CDC::DeleteTempMap();
     CGdiObject::DeleteTempMap();
+    CImageList::DeleteTempMap();
 }
 
 void UpdateCommandItems(CWnd* wnd) {
