@@ -100,12 +100,19 @@ LRESULT CListCtrlStyled::OnSetItem(WPARAM wParam, LPARAM lParam) {
     if (m_records.Find(key) == nullptr)
         return DefWindowProc(message, wParam, lParam);
 
-    const LPARAM value = item.lParam;
-    item.lParam = key; // the list view checks the rest of the request and keeps its key
+    if (item.iSubItem != 0 || m_records.Find(key)->value == item.lParam) {
+        item.lParam = key; // for the list view, too, nothing changes
+        return DefWindowProc(message, wParam, reinterpret_cast<LPARAM>(&item));
+    }
+    // Under a key of its own, so that for the list view the parameter changes and it says so; what
+    // it says of the former value still finds the former record.
+    const LPARAM newKey = m_records.Add(item.lParam);
+    item.lParam = newKey;
+    m_records.MoveStyles(key, newKey);
     const LRESULT done = DefWindowProc(message, wParam, reinterpret_cast<LPARAM>(&item));
-    tint::ListItemRecord* const record = m_records.Find(key);
-    if (done != FALSE && item.iSubItem == 0 && record != nullptr)
-        record->value = value;
+    if (done == FALSE)
+        m_records.MoveStyles(newKey, key);
+    m_records.Remove(done != FALSE ? key : newKey);
     return done;
 }
 

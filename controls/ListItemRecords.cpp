@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ListItemRecords.h"
 
+#include <utility>
+
 namespace tint {
 
 static_assert(sizeof(LPARAM) == 8, "a key holds a slot and a generation of 32 bits each");
@@ -57,6 +59,13 @@ void ListItemRecords::Remove(LPARAM key) {
     m_slots[index].nextFree = m_firstFree;
     m_firstFree = index;
     --m_count;
+}
+
+void ListItemRecords::MoveStyles(LPARAM from, LPARAM to) {
+    ListItemRecord* const source = Find(from);
+    ListItemRecord* const target = Find(to);
+    if (source != nullptr && target != nullptr)
+        target->styles = std::move(source->styles);
 }
 
 void ListItemRecords::Clear() {

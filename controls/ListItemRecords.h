@@ -48,6 +48,9 @@ public:
     /// Frees a record; nothing happens when there is none.
     void Remove(LPARAM key);
 
+    /// Gives the styles of one record to another; nothing happens when there is not each of them.
+    void MoveStyles(LPARAM from, LPARAM to);
+
     /// Frees all records and their memory.
     void Clear();
 
