@@ -5,6 +5,7 @@
 #include <string>
 
 #include "benchmarks/ButtonBench.h"
+#include "benchmarks/ListBench.h"
 #include "benchmarks/Report.h"
 
 namespace {
@@ -22,7 +23,9 @@ int main(int argc, char** argv) {
     if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), SW_SHOWNORMAL))
         return 1;
 
-    const std::vector<Row> rows = BenchButton();
+    std::vector<Row> rows = BenchButton();
+    for (const Row& row : BenchList())
+        rows.push_back(row);
     std::fputs((json ? FormatJson(rows) : FormatTable(rows)).c_str(), stdout);
     return 0;
 }

@@ -161,6 +161,7 @@ private:
     SelectedFont m_cellFont;
 
     std::vector<std::unique_ptr<tint::ListStyle>> m_columns; ///< null or past the end: no style
+    tint::ListColors m_colors = {};                          ///< the list's own, read once a paint
     tint::ListColors m_selectedDefaults;
     tint::ListFonts m_fonts;
     tint::ListItemRecords m_records;

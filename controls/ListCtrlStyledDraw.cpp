@@ -36,6 +36,8 @@ LRESULT CListCtrlStyled::OnControlPrePaint() {
     m_rowFont.Forget();
     m_cellFont.Forget();
     GiveSelectionBack(); // that a paint broken off has kept
+    m_colors = {static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTCOLOR, 0, 0)),
+                static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTBKCOLOR, 0, 0))};
     return CDRF_NOTIFYITEMDRAW;
 }
 
@@ -73,12 +75,9 @@ LRESULT CListCtrlStyled::OnCellPrePaint(NMLVCUSTOMDRAW& draw) {
 
 CListCtrlStyled::FontPointer CListCtrlStyled::ResolveStyle(NMLVCUSTOMDRAW& draw, int column) {
     const ListStyleLevels levels = LevelsAt(draw.nmcd.lItemlParam, column);
-    tint::ListColors defaults = m_selectedDefaults;
-    if (!m_paintsSelection)
-        defaults = {static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTCOLOR, 0, 0)),
-                    static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTBKCOLOR, 0, 0))};
     const tint::ListColors colors =
-        tint::ResolveColors(m_paintsSelection ? levels.ForSelectedColors() : levels, defaults);
+        m_paintsSelection ? tint::ResolveColors(levels.ForSelectedColors(), m_selectedDefaults)
+                          : tint::ResolveColors(levels, m_colors);
     draw.clrText = colors.text;
     draw.clrTextBk = colors.back;
 

@@ -2,6 +2,7 @@
 #include "gallery/GalleryDlg.h"
 
 #include "gallery/ButtonsPage.h"
+#include "gallery/ListPage.h"
 #include "gallery/PicturesPage.h"
 #include "gallery/resource.h"
 
@@ -11,6 +12,7 @@ END_MESSAGE_MAP()
 
 CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
+    m_pages.push_back(std::make_unique<CListPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
 }
 

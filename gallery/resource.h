@@ -7,6 +7,7 @@
 #define IDD_GALLERY 101
 #define IDD_BUTTONS 102
 #define IDD_PICTURES 103
+#define IDD_LIST 106
 
 // The gallery window
 #define IDC_SCENES 1001
@@ -34,3 +35,6 @@
 #define IDC_UNREADABLE 1212
 #define IDC_PASTED 1213
 #define IDC_PASTE 1214
+
+// The page "List"
+#define IDC_LIST 1501

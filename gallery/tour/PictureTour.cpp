@@ -71,6 +71,8 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     ChooseScene("Buttons");
     const std::string suffix = isDefault ? "" : "-" + scheme;
     TourButtons(*this, suffix);
+    ChooseScene("List");
+    TourList(*this, suffix);
     ChooseScene("Pictures");
     TourPictures(*this, suffix);
 

@@ -9,5 +9,8 @@ class PictureTour;
 /// @param suffix  appended to the names of the pictures: empty, or a hyphen and the scheme
 void TourButtons(PictureTour& tour, const std::string& suffix);
 
+/// The list with its styles.
+void TourList(PictureTour& tour, const std::string& suffix);
+
 /// The pictures, with one pasted from the clipboard.
 void TourPictures(PictureTour& tour, const std::string& suffix);
