@@ -47,7 +47,7 @@ LRESULT CListCtrlStyled::OnItemPrePaint(NMLVCUSTOMDRAW& draw) {
     m_rowFont.Forget();
     RememberBaseFont(draw.nmcd.hdc);
     if (DefWindowProc(LVM_GETITEMSTATE, draw.nmcd.dwItemSpec, LVIS_SELECTED) != 0) {
-        HideSelection(item, draw.nmcd.lItemlParam);
+        HideSelection(item);
         draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED); // was read before this call
         answer |= CDRF_NOTIFYPOSTPAINT;
     }
@@ -133,10 +133,10 @@ void CListCtrlStyled::SelectedFont::Restore(HDC dc) {
 
 // ---- The selection ------------------------------------------------------------------------------
 
-void CListCtrlStyled::HideSelection(int item, LPARAM key) {
+void CListCtrlStyled::HideSelection(int item) {
     m_paintsSelection = true;
     m_hiddenItem = item;
-    m_hiddenKey = key;
+    m_hiddenKey = KeyOf(item);
     SetSelectedQuietly(item, false);
 }
 

@@ -40,6 +40,8 @@ void CListCtrlStyled::PreSubclassWindow() {
     for (int i = 0; i < count; ++i) {
         LVITEM item = ParameterOf(i);
         GetItem(&item);
+        if (m_records.Find(item.lParam) != nullptr)
+            continue; // the list was here before
         item.lParam = m_records.Add(item.lParam);
         SetItem(&item);
     }

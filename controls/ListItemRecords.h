@@ -72,6 +72,8 @@ private:
         DWORD nextFree = 0;   ///< when free: the next free slot
     };
 
+    static_assert(sizeof(Slot) == 24, "as this class promises");
+
     static constexpr DWORD kNone = 0xFFFFFFFF;
 
     std::vector<Slot> m_slots;

@@ -330,6 +330,31 @@ TEST(ListCtrlStyled, Fonts) {
     list.SetFont(nullptr);
 }
 
+TEST(ListCtrlStyled, StylesGoWithTheirItems) {
+    Host<Subject> host(0, 2);
+    Subject& list = host.m_list;
+    const COLORREF colors[] = {kRed, kGreen, kBlue, kYellow};
+    for (int row = 0; row < 4; ++row) {
+        list.InsertItem(LVIF_PARAM, 0, nullptr, 0, 0, 0, row); // each before the others
+        list.SetRowFlags(0, kBack);
+        list.SetRowBackColor(0, colors[row]);
+    }
+    const auto expect = [&](const std::vector<int>& order) {
+        list.Invalidate();
+        host.Look();
+        for (int row = 0; row < static_cast<int>(order.size()); ++row)
+            EXPECT_EQ(host.Back(row, 1), colors[order[row]]) << row;
+    };
+    expect({3, 2, 1, 0});
+    list.DeleteItem(1);
+    list.SetItemData(0, 7); // as the new value, too
+    expect({3, 1, 0});
+    list.SortItems(Ascending, 1);
+    expect({0, 1, 3});
+    list.SortItems(Ascending, static_cast<DWORD_PTR>(-1));
+    expect({3, 1, 0});
+}
+
 // ---- Columns ------------------------------------------------------------------------------------
 
 TEST(ListCtrlStyled, StylesGoWithTheirColumns) {
