@@ -85,7 +85,8 @@ TEST_F(Controls, ListView) {
     EXPECT_TRUE(list.GetItemRect(1, &bounds, LVIR_BOUNDS));
     EXPECT_TRUE(list.GetSubItemRect(1, 1, LVIR_BOUNDS, cell));
     EXPECT_TRUE(cell.top == bounds.top && cell.Width() == 30);
-    EXPECT_EQ(list.HitTest(CPoint(cell.left + 40, cell.CenterPoint().y)), 1);
+    EXPECT_TRUE(list.GetItemRect(1, &bounds, LVIR_LABEL));
+    EXPECT_EQ(list.HitTest(bounds.TopLeft() + CSize(2, 2)), 1);
 }
 
 TEST_F(Controls, ImageList) {
