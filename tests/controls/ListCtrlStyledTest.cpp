@@ -32,19 +32,23 @@ public:
     int m_paints = 0;
     int m_items = 0;
     int m_cells = 0;
-    std::map<std::pair<int, int>, DWORD> m_fonts; ///< font bits by item and column; 16: 20 high
+    std::map<std::pair<int, int>, DWORD>
+        m_fonts; ///< font bits by item and column; 16: 20 high, 32: selected
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         const BOOL handled = CListCtrlStyled::OnChildNotify(message, wParam, lParam, result);
         const auto& draw = *reinterpret_cast<const NMLVCUSTOMDRAW*>(lParam);
         if (message == WM_NOTIFY && draw.nmcd.hdr.code == NM_CUSTOMDRAW)
-            Note(draw);
+            Note(draw, *result);
+        // What an item's change does in a paint under Windows; Wine leaves it out.
+        if (message == WM_NOTIFY && draw.nmcd.hdr.code == LVN_ITEMCHANGED)
+            Invalidate();
         return handled;
     }
 
 private:
-    void Note(const NMLVCUSTOMDRAW& draw) {
+    void Note(const NMLVCUSTOMDRAW& draw, LRESULT answer) {
         m_paints += draw.nmcd.dwDrawStage == CDDS_PREPAINT;
         m_items += draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT;
         if (draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM))
@@ -55,7 +59,7 @@ private:
         m_fonts[{static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem}] =
             (font.lfWeight >= FW_BOLD ? 1U : 0U) | (font.lfItalic != 0 ? 2U : 0U) |
             (font.lfUnderline != 0 ? 4U : 0U) | (font.lfStrikeOut != 0 ? 8U : 0U) |
-            (font.lfHeight == -20 ? 16U : 0U);
+            (font.lfHeight == -20 ? 16U : 0U) | (answer != 0 ? 32U : 0U);
     }
 };
 
@@ -325,7 +329,7 @@ TEST(ListCtrlStyled, Fonts) {
         fonts[large].CreateFont(large != 0 ? -20 : -11, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0,
                                 "Tahoma");
         list.SetFont(&fonts[large]);
-        expectAll(large * 16U);
+        expectAll(32 | large * 16U);
     }
     list.SetFont(nullptr);
 }
@@ -407,13 +411,6 @@ TEST(ListCtrlStyled, StylesGoWithTheirColumns) {
     }
 }
 
-TEST(ListCtrlStyled, DeletingTheOnlyColumnDeletesAllItems) {
-    Host<Subject> host(3, 1);
-    EXPECT_TRUE(host.m_list.DeleteColumn(0));
-    EXPECT_EQ(host.m_list.GetItemCount(), 0);
-    EXPECT_FALSE(host.m_list.DeleteColumn(0));
-}
-
 // ---- Limits -------------------------------------------------------------------------------------
 
 TEST(ListCtrlStyled, RefusesWhatIsNotThere) {
@@ -442,6 +439,10 @@ TEST(ListCtrlStyled, RefusesWhatIsNotThere) {
     virtualHost.Look();
     EXPECT_FALSE(virtualHost.m_list.SetRowFlags(0, 1));
     EXPECT_NE(virtualHost.Back(0, 1), kRed) << "painted all the same";
+    Host<Subject> oneColumn(3, 1);
+    EXPECT_TRUE(oneColumn.m_list.DeleteColumn(0));
+    EXPECT_EQ(oneColumn.m_list.GetItemCount(), 0) << "nothing is left to show them";
+    EXPECT_FALSE(oneColumn.m_list.DeleteColumn(0));
     CListCtrlStyled unattached;
     EXPECT_FALSE(unattached.SetRowFlags(0, 1) || unattached.SetColumnFlags(0, 1));
 }
@@ -492,6 +493,16 @@ TEST(ListCtrlStyled, EmptyingAndEndingFreesEverything) {
         for (int i = 0; i < 100; ++i)
             fillAndEmpty(i);
         EXPECT_EQ(HeapCount::Now().live, before);
+
+        Fill(list, 1);
+        for (int i = 0; i < 20; ++i) {
+            const long long one = HeapCount::Now().live;
+            list.InsertItem(1, "M");
+            list.SetCellFlags(1, 2, ListStyle::kBold);
+            list.DeleteItem(1);
+            if (i > 0) // the first makes room
+                EXPECT_EQ(HeapCount::Now().live, one);
+        }
         Fill(list, 60);
         list.DestroyWindow();
         list.m_fonts.clear();
