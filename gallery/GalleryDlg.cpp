@@ -4,6 +4,7 @@
 #include "gallery/ButtonsPage.h"
 #include "gallery/CombosPage.h"
 #include "gallery/GlyphsPage.h"
+#include "gallery/ListPage.h"
 #include "gallery/MenusPage.h"
 #include "gallery/PicturesPage.h"
 #include "gallery/resource.h"
@@ -16,6 +17,7 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
     m_pages.push_back(std::make_unique<CGlyphsPage>());
     m_pages.push_back(std::make_unique<CCombosPage>());
+    m_pages.push_back(std::make_unique<CListPage>());
     m_pages.push_back(std::make_unique<CMenusPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
 }

@@ -9,6 +9,7 @@
 #define IDD_PICTURES 103
 #define IDD_GLYPHS 104
 #define IDD_COMBOS 105
+#define IDD_LIST 106
 
 // The gallery window
 #define IDC_SCENES 1001
@@ -74,3 +75,6 @@
 #define IDM_LAYER_ADD 32815
 #define IDM_LAYER_REMOVE 32816
 #define IDM_MENUS_LAST 32816
+
+// The page "List"
+#define IDC_LIST 1501

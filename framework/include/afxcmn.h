@@ -6,5 +6,8 @@
 #include <afxwin.h>
 #include <commctrl.h>
 
+#include "afx/CHeaderCtrl.h"
+#include "afx/CImageList.h"
+#include "afx/CListCtrl.h"
 #include "afx/CStatusBarCtrl.h"
 #include "afx/CToolBarCtrl.h"

@@ -75,6 +75,8 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     TourGlyphs(*this, suffix);
     ChooseScene("Combo boxes");
     TourCombos(*this, suffix);
+    ChooseScene("List");
+    TourList(*this, suffix);
     ChooseScene("Menus");
     TourMenus(*this, suffix);
     ChooseScene("Pictures");

@@ -12,6 +12,9 @@ void TourButtons(PictureTour& tour, const std::string& suffix);
 /// Menus of a frame window and a context menu, opened by keys and mouse.
 void TourMenus(PictureTour& tour, const std::string& suffix);
 
+/// The list with its styles.
+void TourList(PictureTour& tour, const std::string& suffix);
+
 /// The pictures, with one pasted from the clipboard.
 void TourPictures(PictureTour& tour, const std::string& suffix);
 
