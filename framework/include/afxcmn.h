@@ -5,3 +5,6 @@
 
 #include <afxwin.h>
 #include <commctrl.h>
+
+#include "afx/CRichEditCtrl.h"
+#include "afx/CToolTipCtrl.h"
