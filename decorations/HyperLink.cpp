@@ -79,8 +79,8 @@ CHyperLink::OwnCursor CHyperLink::LoadHand() {
     if (length == 0 || length >= sizeof path)
         return nullptr;
     // As data: nothing of the program runs.
-    const HMODULE module = ::LoadLibraryExA(CString(path) + "\\winhlp32.exe", nullptr,
-                                            LOAD_LIBRARY_AS_DATAFILE);
+    const HMODULE module =
+        ::LoadLibraryExA(CString(path) + "\\winhlp32.exe", nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (module == nullptr)
         return nullptr;
     const HCURSOR hand = ::LoadCursorA(module, MAKEINTRESOURCEA(106));

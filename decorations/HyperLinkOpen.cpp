@@ -56,7 +56,8 @@ CString CommandLineFor(const CString& command, const CString& url) {
 
 void CHyperLink::OnClicked() {
     if (m_url.IsEmpty()) {
-        GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), 0), 0);
+        if (CWnd* const parent = GetParent())
+            parent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), 0), 0);
         return;
     }
     m_overLink = FALSE;

@@ -21,6 +21,9 @@
 ///     };
 ///
 /// The template decides about ES_MULTILINE, ES_READONLY and the scroll bars.
+///
+/// The parser is the system's, and not every system's survives a document made to break it: show files
+/// that the program came with or trusts.
 class CRtfEdit : public CRichEditCtrl {
 public:
     /// Replaces what the control holds by the RTF document in a file; an empty file empties it.

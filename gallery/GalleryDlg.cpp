@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/GalleryDlg.h"
 
+#include "gallery/BitmapButtonsPage.h"
 #include "gallery/ButtonsPage.h"
+#include "gallery/GalleryLog.h"
+#include "gallery/LinksPage.h"
 #include "gallery/PicturesPage.h"
+#include "gallery/RichTextPage.h"
 #include "gallery/resource.h"
 
 BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
@@ -12,6 +16,9 @@ END_MESSAGE_MAP()
 CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
+    m_pages.push_back(std::make_unique<CLinksPage>());
+    m_pages.push_back(std::make_unique<CBitmapButtonsPage>());
+    m_pages.push_back(std::make_unique<CRichTextPage>());
 }
 
 void CGalleryDlg::DoDataExchange(CDataExchange* exchange) {
@@ -53,6 +60,7 @@ void CGalleryDlg::ShowPage(CGalleryPage& page) {
     if (m_shown != nullptr)
         m_shown->ShowWindow(SW_HIDE);
     m_shown = &page;
+    GalleryLog().Log("Scene %s\n", page.GetTitle());
     m_title.SetWindowText(page.GetTitle());
     SetDlgItemText(IDC_DESCRIPTION, page.GetDescription());
     page.ShowWindow(SW_SHOW);

@@ -48,22 +48,10 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UIN
     return Send<BOOL>(*this, TTM_ADDTOOL, 0, &tool);
 }
 
-int CToolTipCtrl::GetToolCount() const {
-    return Send<int>(*this, TTM_GETTOOLCOUNT);
-}
-
 void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect) {
     TOOLINFO tool = ToolOf(pWnd, nIDTool);
     tool.rect = *lpRect;
     Send(*this, TTM_NEWTOOLRECT, 0, &tool);
-}
-
-void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const {
-    TCHAR text[1024] = "";
-    TOOLINFO tool = ToolOf(pWnd, nIDTool);
-    tool.lpszText = text;
-    Send(*this, TTM_GETTEXT, sizeof(text), &tool);
-    str = text;
 }
 
 void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool) {

@@ -11,3 +11,12 @@ void TourButtons(PictureTour& tour, const std::string& suffix);
 
 /// The pictures, with one pasted from the clipboard.
 void TourPictures(PictureTour& tour, const std::string& suffix);
+
+/// The links, one of them under the mouse.
+void TourLinks(PictureTour& tour, const std::string& suffix);
+
+/// The bitmap buttons in each of their states.
+void TourBitmapButtons(PictureTour& tour, const std::string& suffix);
+
+/// The rich text.
+void TourRichText(PictureTour& tour, const std::string& suffix);

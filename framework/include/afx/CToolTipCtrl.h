@@ -19,10 +19,7 @@ public:
     /// @param lpRectTool in client coordinates of `pWnd`; null if and only if `nIDTool` is 0.
     BOOL AddTool(CWnd* pWnd, LPCTSTR lpszText = LPSTR_TEXTCALLBACK, LPCRECT lpRectTool = NULL,
                  UINT_PTR nIDTool = 0);
-    int GetToolCount() const;
     void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect);
-    /// The first 1023 bytes of the text; empty when there is no such tool.
-    void GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
     void UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
 
     /// Shows the control a message of a tool's window, so that it knows where the mouse is.
