@@ -5,6 +5,7 @@
 
 #include <shlobj.h>
 
+#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <memory>

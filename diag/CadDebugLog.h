@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdarg>
 #include <cstddef>
+#include <cstdio>
 
 // Lets GCC and clang check a format against its arguments. Both positions count from 1, `this` first.
 #ifdef __MINGW_PRINTF_FORMAT
-#define TINT_PRINTF_FORMAT(format, arguments) \
-    __attribute__((format(__MINGW_PRINTF_FORMAT, format, arguments)))
+#define TINT_PRINTF_FORMAT(text, values) \
+    __attribute__((format(__MINGW_PRINTF_FORMAT, text, values)))
 #else
-#define TINT_PRINTF_FORMAT(format, arguments)
+#define TINT_PRINTF_FORMAT(text, values)
 #endif
 
 /// The program's switchable trace file: off unless the settings file turns it on.

@@ -25,6 +25,7 @@ BOOL CRichTextPage::OnInitDialog() {
     CGalleryPage::OnInitDialog();
     const CString path = BesideProgram("documents\\about.rtf");
     GalleryLog().Log("Rich text from %s\n", static_cast<LPCTSTR>(path));
+    m_text.SetAutoURLDetect();
     m_text.LoadRtfFile(path);
     return TRUE;
 }

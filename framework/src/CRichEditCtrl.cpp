@@ -53,6 +53,10 @@ DWORD CRichEditCtrl::GetSelectionCharFormat(CHARFORMAT2& cf) const {
     return Send<DWORD>(*this, EM_GETCHARFORMAT, SCF_SELECTION, &cf);
 }
 
+BOOL CRichEditCtrl::SetAutoURLDetect(BOOL bEnable) {
+    return Send<BOOL>(*this, EM_AUTOURLDETECT, bEnable);
+}
+
 long CRichEditCtrl::StreamIn(int nFormat, EDITSTREAM& es) {
     return Send<long>(*this, EM_STREAMIN, nFormat, &es);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "automation/RealInput.h"
+#include "automation/Steady.h"
 #include "gallery/resource.h"
 #include "gallery/tour/PictureSheet.h"
 #include "gallery/tour/PictureTour.h"
@@ -25,6 +26,7 @@ void TourBitmapButtons(PictureTour& tour, const std::string& suffix) {
         add("pressed");
         tour.ParkMouse();
         automation::ReleaseMouse();
+        automation::WaitUntilSteady(tour.Gallery()); // the button has let go of the mouse
         automation::Click(disable);
         tour.ParkMouse();
         add("disabled");

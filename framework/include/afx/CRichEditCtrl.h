@@ -23,6 +23,8 @@ public:
     CString GetSelText() const;
     /// @return which members of `cf` hold for the whole selection, as CFM_ flags.
     DWORD GetSelectionCharFormat(CHARFORMAT2& cf) const;
+    /// Shows addresses in the text as links. @return zero on success.
+    BOOL SetAutoURLDetect(BOOL bEnable = TRUE);
     /// Replaces the text, or with SFF_SELECTION the selection, by what the stream's callback gives.
     /// @param nFormat SF_ flags. @return the number of characters read.
     long StreamIn(int nFormat, EDITSTREAM& es);
