@@ -52,6 +52,7 @@ public:
     void SetURL(CString url);
     CString GetURL() const { return m_url; }
 
+    /// The colours at first are those of web pages, on whatever background the scheme has.
     /// @param hover  under the mouse; -1 stands for the highlight colour of this moment
     void SetColours(COLORREF link, COLORREF visited, COLORREF hover = kHighlight);
     COLORREF GetLinkColour() const { return m_linkColour; }
