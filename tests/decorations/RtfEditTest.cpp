@@ -3,33 +3,25 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
-#include "tests/support/DialogTemplate.h"
+#include "tests/decorations/SubjectDialog.h"
 #include "tests/support/ImportPatch.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr WORD kSubject = 101;
-
-class RtfDialog : public CDialog {
+class RtfDialog : public SubjectDialog<CRtfEdit> {
 public:
     RtfDialog() {
         AfxInitRichEdit2();
-        m_template.Add("RichEdit20A", "", kSubject, ES_MULTILINE | ES_READONLY, 10, 10, 100, 60);
-        CreateIndirect(m_template.Get(), nullptr);
+        Open("RichEdit20A", "", ES_MULTILINE | ES_READONLY);
         Load("{\\rtf1\\ansi before}");
     }
-    ~RtfDialog() override {
-        DestroyWindow();
-        std::error_code ignored;
-        fs::remove(m_file, ignored);
-    }
+    ~RtfDialog() override { fs::remove(m_file); }
 
     void Load(const std::string& content) {
         std::ofstream(m_file, std::ios::binary) << content;
@@ -41,17 +33,7 @@ public:
         return m_subject.GetSelText();
     }
 
-    CRtfEdit m_subject;
     const fs::path m_file = fs::temp_directory_path() / "tintkit.rtf";
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override {
-        CDialog::DoDataExchange(exchange);
-        DDX_Control(exchange, kSubject, m_subject);
-    }
-
-private:
-    DialogTemplate m_template{"Rich text", 120, 80};
 };
 
 TEST(RtfEdit, ShowsTheLastFileLoaded) {
