@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "gallery/GalleryDlg.h"
+#include "gallery/GalleryLog.h"
 #include "gallery/GalleryOptions.h"
 #include "gallery/tour/PictureTour.h"
 
@@ -23,6 +24,9 @@ BOOL CGalleryApp::InitInstance() {
         m_exitCode = 2;
         return FALSE;
     }
+
+    GalleryLog().LogTruncate("The gallery starts.\n");
+    AfxInitRichEdit2();
 
     std::optional<automation::SystemColorGuard> colors;
     if (options.scheme != nullptr)
@@ -43,5 +47,6 @@ BOOL CGalleryApp::InitInstance() {
 
 int CGalleryApp::ExitInstance() {
     CWinApp::ExitInstance();
+    GalleryLog().Log("The gallery ends with status %d.\n", m_exitCode);
     return m_exitCode;
 }

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/GalleryDlg.h"
 
+#include "gallery/BitmapButtonsPage.h"
 #include "gallery/ButtonsPage.h"
 #include "gallery/CombosPage.h"
+#include "gallery/GalleryLog.h"
 #include "gallery/GlyphsPage.h"
+#include "gallery/LinksPage.h"
 #include "gallery/ListPage.h"
 #include "gallery/MenusPage.h"
 #include "gallery/PicturesPage.h"
+#include "gallery/RichTextPage.h"
 #include "gallery/resource.h"
 
 BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
@@ -20,6 +24,9 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CListPage>());
     m_pages.push_back(std::make_unique<CMenusPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
+    m_pages.push_back(std::make_unique<CLinksPage>());
+    m_pages.push_back(std::make_unique<CBitmapButtonsPage>());
+    m_pages.push_back(std::make_unique<CRichTextPage>());
 }
 
 void CGalleryDlg::DoDataExchange(CDataExchange* exchange) {
@@ -61,6 +68,7 @@ void CGalleryDlg::ShowPage(CGalleryPage& page) {
     if (m_shown != nullptr)
         m_shown->ShowWindow(SW_HIDE);
     m_shown = &page;
+    GalleryLog().Log("Scene %s\n", page.GetTitle());
     m_title.SetWindowText(page.GetTitle());
     SetDlgItemText(IDC_DESCRIPTION, page.GetDescription());
     page.ShowWindow(SW_SHOW);

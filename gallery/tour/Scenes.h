@@ -23,3 +23,12 @@ void TourGlyphs(PictureTour& tour, const std::string& suffix);
 
 /// The combo box in each of its states.
 void TourCombos(PictureTour& tour, const std::string& suffix);
+
+/// The links, one of them under the mouse.
+void TourLinks(PictureTour& tour, const std::string& suffix);
+
+/// The bitmap buttons in each of their states.
+void TourBitmapButtons(PictureTour& tour, const std::string& suffix);
+
+/// The rich text.
+void TourRichText(PictureTour& tour, const std::string& suffix);
