@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/GlyphTable.h"
 
+#include <iterator>
+
 #include "controls/DrawButton.h"
 #include "draw/BufferDC.h"
 #include "draw/Selectors.h"
