@@ -88,7 +88,8 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     if (!CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
                   rect.right - rect.left, rect.bottom - rect.top, afx::WindowOf(pParentWnd), menu,
                   pContext)) {
-        if (menu != nullptr) {
+        // A window that got as far as to have the menu has taken it along.
+        if (menu != nullptr && ::IsMenu(menu)) {
             ::DestroyMenu(menu);
         }
         return FALSE;

@@ -250,6 +250,7 @@ CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 }
 
 void CStatusBar::OnPaint() {
+    // The control paints its panes; there are no borders to draw around them.
     Default();
 }
 

@@ -195,12 +195,13 @@ TEST_F(ControlBarTest, ADerivedClassCanHideButtonsFromTheLayout) {
     EXPECT_EQ(bar.CalcDynamicLayout(-1, LM_HORZ | LM_HORZDOCK),
               CSize(kLength - kButton, kButtonHeight + 1));
     EXPECT_EQ(bar.m_committed, 0u);
+    bar.SetButtonStyle(0, TBBS_WRAPPED);
     bar.EnableDocking(CBRS_ALIGN_LEFT);
     m_frame->DockControlBar(&bar);
     EXPECT_EQ(bar.m_pDockBar->GetDlgCtrlID(), AFX_IDW_DOCKBAR_LEFT);
     EXPECT_EQ(bar.m_committed, static_cast<DWORD>(LM_VERTDOCK | LM_COMMIT));
     // What the layout was told has not got into the control.
-    EXPECT_EQ(bar.GetButtonStyle(0) & TBBS_HIDDEN, 0u);
+    EXPECT_EQ(bar.GetButtonStyle(0), 0u);
     bar.EnableDocking(0);
     m_frame->DockControlBar(&bar);
     EXPECT_TRUE(bar.IsFloating());
@@ -253,6 +254,11 @@ TEST_F(ControlBarTest, IdleTimeUpdatesButtonsAndPanes) {
     AfxGetApp()->OnIdle(0);
     EXPECT_EQ(tools.GetButtonStyle(3),
               static_cast<UINT>(TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED));
+    // A frame beside the main window is updated, too.
+    AfxGetApp()->m_pMainWnd = nullptr;
+    m_frame->m_checked = false;
+    AfxGetApp()->OnIdle(0);
+    EXPECT_EQ(tools.GetButtonStyle(3) & TBBS_CHECKED, 0u);
     const bool caps = (::GetKeyState(VK_CAPITAL) & 1) != 0;
     EXPECT_EQ((m_frame->m_status.GetPaneStyle(1) & SBPS_DISABLED) == 0, caps);
 
