@@ -48,6 +48,11 @@ bool PutBackColor(ListStyle* style, COLORREF color) {
     return style != nullptr;
 }
 
+/// Asked before a style is created, which would be a change already.
+bool IsFontOrNull(HFONT font) {
+    return font == nullptr || ::GetObjectType(font) == OBJ_FONT;
+}
+
 bool PutFont(ListStyle* style, HFONT font) {
     return style != nullptr && style->SetFont(font);
 }
@@ -82,7 +87,7 @@ bool CListCtrlStyled::SetCellBackColor(int item, int column, COLORREF color) {
 }
 
 bool CListCtrlStyled::SetCellFont(int item, int column, HFONT font) {
-    return PutFont(CellStyle(item, column), font);
+    return IsFontOrNull(font) && PutFont(CellStyle(item, column), font);
 }
 
 bool CListCtrlStyled::SetSelectedCellFlags(int item, int column, DWORD flags) {
@@ -98,7 +103,7 @@ bool CListCtrlStyled::SetSelectedCellBackColor(int item, int column, COLORREF co
 }
 
 bool CListCtrlStyled::SetSelectedCellFont(int item, int column, HFONT font) {
-    return PutFont(Selected(CellStyle(item, column)), font);
+    return IsFontOrNull(font) && PutFont(Selected(CellStyle(item, column)), font);
 }
 
 // ---- Rows ---------------------------------------------------------------------------------------
@@ -116,7 +121,7 @@ bool CListCtrlStyled::SetRowBackColor(int item, COLORREF color) {
 }
 
 bool CListCtrlStyled::SetRowFont(int item, HFONT font) {
-    return PutFont(RowStyle(item), font);
+    return IsFontOrNull(font) && PutFont(RowStyle(item), font);
 }
 
 bool CListCtrlStyled::SetSelectedRowFlags(int item, DWORD flags) {
@@ -132,7 +137,7 @@ bool CListCtrlStyled::SetSelectedRowBackColor(int item, COLORREF color) {
 }
 
 bool CListCtrlStyled::SetSelectedRowFont(int item, HFONT font) {
-    return PutFont(Selected(RowStyle(item)), font);
+    return IsFontOrNull(font) && PutFont(Selected(RowStyle(item)), font);
 }
 
 // ---- Columns ------------------------------------------------------------------------------------
@@ -150,7 +155,7 @@ bool CListCtrlStyled::SetColumnBackColor(int column, COLORREF color, bool redraw
 }
 
 bool CListCtrlStyled::SetColumnFont(int column, HFONT font, bool redraw) {
-    return Redraw(PutFont(ColumnStyle(column), font), redraw);
+    return Redraw(IsFontOrNull(font) && PutFont(ColumnStyle(column), font), redraw);
 }
 
 bool CListCtrlStyled::SetSelectedColumnFlags(int column, DWORD flags, bool redraw) {
@@ -166,7 +171,7 @@ bool CListCtrlStyled::SetSelectedColumnBackColor(int column, COLORREF color, boo
 }
 
 bool CListCtrlStyled::SetSelectedColumnFont(int column, HFONT font, bool redraw) {
-    return Redraw(PutFont(Selected(ColumnStyle(column)), font), redraw);
+    return Redraw(IsFontOrNull(font) && PutFont(Selected(ColumnStyle(column)), font), redraw);
 }
 
 // ---- Where the styles are -----------------------------------------------------------------------

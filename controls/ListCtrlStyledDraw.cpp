@@ -45,6 +45,7 @@ LRESULT CListCtrlStyled::OnItemPrePaint(NMLVCUSTOMDRAW& draw) {
     const auto item = static_cast<int>(draw.nmcd.dwItemSpec);
     LRESULT answer = CDRF_NOTIFYSUBITEMDRAW;
     m_rowFont.Forget();
+    GiveSelectionBack();
     RememberBaseFont(draw.nmcd.hdc);
     if (DefWindowProc(LVM_GETITEMSTATE, draw.nmcd.dwItemSpec, LVIS_SELECTED) != 0) {
         HideSelection(item);

@@ -52,6 +52,8 @@ void CListCtrlStyled::OnDestroy() {
     CListCtrl::OnDestroy();
     m_records.Clear();
     m_columns.clear();
+    m_plainCell = {};
+    m_fonts = {};
     m_hasBaseFont = false;
     m_paintsSelection = false;
 }

@@ -49,7 +49,8 @@ struct ListStyle {
     /// The selected variant; created empty at the first call.
     ListStyle& Selected();
 
-    /// The font of this level alone.
+    /// The font of this level alone.  Made from bits it has the weight 700 or 400, nothing between: over a
+    /// base of another weight (as 0, which leaves it open) a cell's italic takes its row's bold away.
     /// @param base  the list's own font
     /// @return false when this level sets none
     bool GetFont(const LOGFONT& base, LOGFONT& font) const;

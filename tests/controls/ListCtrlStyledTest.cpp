@@ -500,8 +500,7 @@ TEST(ListCtrlStyled, EmptyingAndEndingFreesEverything) {
             list.InsertItem(1, "M");
             list.SetCellFlags(1, 2, ListStyle::kBold);
             list.DeleteItem(1);
-            if (i > 0) // the first makes room
-                EXPECT_EQ(HeapCount::Now().live, one);
+            EXPECT_LE(HeapCount::Now().live, one + (i == 0)); // the first makes room
         }
         Fill(list, 60);
         list.DestroyWindow();
