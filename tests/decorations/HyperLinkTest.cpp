@@ -172,11 +172,11 @@ TEST(HyperLink, ColoursAndUnderlineFollowTheMouseInEveryMode) {
         link.SetUnderline(mode);
         for (const bool visited : {false, true}) {
             link.SetVisited(visited);
-            EXPECT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
+            ASSERT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
             automation::MoveMouseOver(link.m_hWnd);
-            EXPECT_TRUE(dialog.Shows(kHover, mode != 0)) << mode;
+            ASSERT_TRUE(dialog.Shows(kHover, mode != 0)) << mode;
             LinkDialog::ParkMouse();
-            EXPECT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
+            ASSERT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
         }
     }
     link.SetUnderline(-1);
