@@ -90,7 +90,8 @@ CHyperLink::OwnCursor CHyperLink::LoadHand() {
 }
 
 BOOL CHyperLink::DestroyWindow() {
-    KillTimer(kTimerId);
+    if (m_hWnd != nullptr)
+        KillTimer(kTimerId);
     return CStatic::DestroyWindow();
 }
 

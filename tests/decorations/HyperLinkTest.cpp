@@ -172,11 +172,11 @@ TEST(HyperLink, ColoursAndUnderlineFollowTheMouseInEveryMode) {
         link.SetUnderline(mode);
         for (const bool visited : {false, true}) {
             link.SetVisited(visited);
-            EXPECT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
+            ASSERT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
             automation::MoveMouseOver(link.m_hWnd);
-            EXPECT_TRUE(dialog.Shows(kHover, mode != 0)) << mode;
+            ASSERT_TRUE(dialog.Shows(kHover, mode != 0)) << mode;
             LinkDialog::ParkMouse();
-            EXPECT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
+            ASSERT_TRUE(dialog.Shows(visited ? kVisited : kFresh, mode == 1)) << mode;
         }
     }
     link.SetUnderline(-1);
@@ -384,30 +384,26 @@ TEST(HyperLink, TheSystemStartsTheProgramThatIsRegistered) {
     fs::remove(out);
 }
 
-std::string g_windows;
 decltype(&::LoadCursorA) g_loadCursor = nullptr;
 
-UINT WINAPI WindowsFolder(LPSTR path, UINT) {
-    return static_cast<UINT>(::lstrlenA(::lstrcpyA(path, g_windows.c_str())));
+// A help program with a hand in it, which the system has no more: this program stands in for it.
+HMODULE WINAPI HelpProgram(LPCSTR path, HANDLE, DWORD flags) {
+    EXPECT_EQ(::lstrcmpiA(path, "C:\\windows\\winhlp32.exe"), 0) << path;
+    EXPECT_EQ(flags, DWORD{LOAD_LIBRARY_AS_DATAFILE});
+    return ::LoadLibraryA(__argv[0]);
 }
-
-/// A help program with a hand in it, as the system has it no more.
 HCURSOR WINAPI HandOfHelp(HINSTANCE module, LPCSTR name) {
-    const bool hand = module != nullptr && name == MAKEINTRESOURCEA(106);
-    return hand ? g_loadCursor(nullptr, IDC_HAND) : g_loadCursor(module, name);
+    const bool hand = module == ::GetModuleHandleA(nullptr) && name == MAKEINTRESOURCEA(106);
+    return g_loadCursor(hand ? nullptr : module, hand ? IDC_HAND : name);
 }
 
 TEST(HyperLink, TheHandIsThatOfTheHelpProgram) {
-    const fs::path folder = fs::temp_directory_path() / "tintkit-windows";
-    fs::create_directories(folder);
-    fs::copy_file(__argv[0], folder / "winhlp32.exe", fs::copy_options::overwrite_existing);
-    g_windows = folder.string();
-    ImportPatch patch;
-    patch.Redirect("kernel32.dll", "GetWindowsDirectoryA", &WindowsFolder);
-    g_loadCursor = patch.Redirect("user32.dll", "LoadCursorA", &HandOfHelp);
     HCURSOR hand = nullptr;
     ICONINFO info = {};
     {
+        ImportPatch patch;
+        patch.Redirect("kernel32.dll", "LoadLibraryExA", &HelpProgram);
+        g_loadCursor = patch.Redirect("user32.dll", "LoadCursorA", &HandOfHelp);
         LinkDialog dialog;
         hand = dialog.m_subject.GetLinkCursor();
         EXPECT_NE(hand, g_loadCursor(nullptr, IDC_HAND)) << "a copy";
@@ -416,7 +412,6 @@ TEST(HyperLink, TheHandIsThatOfTheHelpProgram) {
         EXPECT_TRUE(::GetIconInfo(hand, &info));
     }
     EXPECT_FALSE(::GetIconInfo(hand, &info)) << "gone with the link";
-    EXPECT_EQ(fs::remove_all(folder), 2u) << "the program is not held open";
 
     LinkDialog dialog;
     EXPECT_EQ(dialog.m_subject.GetLinkCursor(), nullptr) << "nothing stands in for the hand";
