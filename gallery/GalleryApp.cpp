@@ -2,12 +2,10 @@
 #include "gallery/GalleryApp.h"
 
 #include <cstdio>
-#include <optional>
 
-#include "gallery/GalleryDlg.h"
+#include "gallery/GalleryFrame.h"
 #include "gallery/GalleryLog.h"
 #include "gallery/GalleryOptions.h"
-#include "gallery/tour/PictureTour.h"
 
 namespace {
 
@@ -28,25 +26,24 @@ BOOL CGalleryApp::InitInstance() {
     GalleryLog().LogTruncate("The gallery starts.\n");
     AfxInitRichEdit2();
 
-    std::optional<automation::SystemColorGuard> colors;
+    auto* const gallery = new CGalleryFrame; // deletes itself with its window
+    if (!gallery->CreateGallery())
+        return FALSE;
+    m_pMainWnd = gallery;
     if (options.scheme != nullptr)
-        colors.emplace(options.scheme->colors);
-
-    CGalleryDlg gallery;
-    m_pMainWnd = &gallery;
-    if (options.pictures.empty()) {
-        gallery.DoModal();
-    } else {
-        PictureTour tour(options.pictures);
-        tour.Start();
-        gallery.DoModal();
-        m_exitCode = tour.Finish() ? 0 : 1;
+        gallery->ChooseScheme(static_cast<int>(options.scheme - automation::ColorSchemes().data()));
+    gallery->ShowWindow(options.pictures.empty() ? m_nCmdShow : SW_SHOWNORMAL);
+    if (!options.pictures.empty()) {
+        m_tour = std::make_unique<PictureTour>(options.pictures);
+        m_tour->Start();
     }
-    return FALSE; // the window is closed: no message loop is wanted
+    return TRUE;
 }
 
 int CGalleryApp::ExitInstance() {
     CWinApp::ExitInstance();
+    if (m_tour != nullptr && !m_tour->Finish())
+        m_exitCode = 1;
     GalleryLog().Log("The gallery ends with status %d.\n", m_exitCode);
     return m_exitCode;
 }

@@ -3,6 +3,10 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
+#include "gallery/tour/PictureTour.h"
+
 /// The gallery application.
 ///
 ///     gallery                   opens the window
@@ -14,5 +18,6 @@ public:
     int ExitInstance() override;
 
 private:
+    std::unique_ptr<PictureTour> m_tour; ///< null: the user drives
     int m_exitCode = 0;
 };

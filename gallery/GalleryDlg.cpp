@@ -29,19 +29,24 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CRichTextPage>());
 }
 
+BOOL CGalleryDlg::CreateIn(CFrameWnd& frame) {
+    if (!Create(IDD_GALLERY, &frame))
+        return FALSE;
+    SetDlgCtrlID(AFX_IDW_PANE_FIRST); // what the bars leave is its place
+    CRect client;
+    GetClientRect(client);
+    m_naturalSize = client.Size();
+    return TRUE;
+}
+
 void CGalleryDlg::DoDataExchange(CDataExchange* exchange) {
     CDialog::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_SCENES, m_scenes);
     DDX_Control(exchange, IDC_TITLE, m_title);
-    DDX_Control(exchange, IDCANCEL, m_close);
 }
 
 BOOL CGalleryDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-
-    const HICON icon = AfxGetApp()->LoadIcon(IDR_GALLERY);
-    SetIcon(icon, TRUE);
-    SetIcon(icon, FALSE);
 
     LOGFONT font;
     GetFont()->GetLogFont(&font);
@@ -53,23 +58,29 @@ BOOL CGalleryDlg::OnInitDialog() {
         m_scenes.AddString(page->GetTitle());
         page->CreateOver(*GetDlgItem(IDC_PAGE), *this);
     }
-    m_scenes.SetCurSel(0);
-    ShowPage(*m_pages.front());
+    ShowScene(0);
     return TRUE;
 }
 
 void CGalleryDlg::OnSceneChosen() {
     const int chosen = m_scenes.GetCurSel();
     if (chosen != LB_ERR)
-        ShowPage(*m_pages[chosen]);
+        ShowScene(chosen);
 }
 
-void CGalleryDlg::ShowPage(CGalleryPage& page) {
-    if (m_shown != nullptr)
-        m_shown->ShowWindow(SW_HIDE);
-    m_shown = &page;
-    GalleryLog().Log("Scene %s\n", page.GetTitle());
-    m_title.SetWindowText(page.GetTitle());
-    SetDlgItemText(IDC_DESCRIPTION, page.GetDescription());
-    page.ShowWindow(SW_SHOW);
+void CGalleryDlg::ShowScene(int scene) {
+    GetPage().ShowWindow(SW_HIDE);
+    m_scene = (scene + GetSceneCount()) % GetSceneCount();
+    m_scenes.SetCurSel(m_scene);
+    GalleryLog().Log("Scene %s\n", GetPage().GetTitle());
+    m_title.SetWindowText(GetPage().GetTitle());
+    SetDlgItemText(IDC_DESCRIPTION, GetPage().GetDescription());
+    GetPage().ShowWindow(SW_SHOW);
+}
+
+BOOL CGalleryDlg::PreTranslateMessage(MSG* message) {
+    // Or the dialog would take the keys of the frame's accelerators for itself.
+    CFrameWnd* const frame = GetParentFrame();
+    return (frame != nullptr && frame->PreTranslateMessage(message)) ||
+           CDialog::PreTranslateMessage(message);
 }

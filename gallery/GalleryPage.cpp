@@ -15,5 +15,9 @@ BOOL CGalleryPage::PreTranslateMessage(MSG* message) {
     // The Tab key may leave the page: the window around it knows the whole tab order.
     if (message->message == WM_KEYDOWN && message->wParam == VK_TAB)
         return FALSE;
+    // Or the page would take the keys of the frame's accelerators for itself.
+    CFrameWnd* const frame = GetParentFrame();
+    if (frame != nullptr && frame->PreTranslateMessage(message))
+        return TRUE;
     return CDialog::PreTranslateMessage(message);
 }

@@ -27,13 +27,6 @@ void CMenusPage::DoDataExchange(CDataExchange* exchange) {
     DDX_Control(exchange, IDC_MENUS_OPEN, m_open);
 }
 
-BOOL CMenusPage::OnInitDialog() {
-    CSkinnedMenus<CGalleryPage>::OnInitDialog();
-    // A page is a child: the window in the foreground while its menus are open is the gallery.
-    CMenuXP::EnableMenuXP(GetParent(), true);
-    return TRUE;
-}
-
 void CMenusPage::OnOpenFrame() {
     if (::IsWindow(m_frame)) {
         ::SetForegroundWindow(m_frame);

@@ -15,7 +15,6 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
-    BOOL OnInitDialog() override;
 
     afx_msg void OnOpenFrame();
     afx_msg void OnContextMenu(CWnd* window, CPoint point);

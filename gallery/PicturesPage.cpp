@@ -39,6 +39,8 @@ BEGIN_MESSAGE_MAP(CPicturesPage, CGalleryPage)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_BN_CLICKED(IDC_PASTE, &CPicturesPage::OnPaste)
+    ON_COMMAND(ID_EDIT_PASTE, &CPicturesPage::OnPaste)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_PASTE, &CPicturesPage::OnUpdatePaste)
 END_MESSAGE_MAP()
 
 CPicturesPage::CPicturesPage() : CGalleryPage(IDD_PICTURES) {}
@@ -103,6 +105,10 @@ void CPicturesPage::OnPaste() {
     }
     ::CloseClipboard();
     InvalidateRect(PlaceOf(IDC_PASTED));
+}
+
+void CPicturesPage::OnUpdatePaste(CCmdUI* item) {
+    item->Enable(::IsClipboardFormatAvailable(CF_DIB));
 }
 
 CRect CPicturesPage::PlaceOf(UINT id) const {

@@ -23,6 +23,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
     afx_msg void OnPaste();
+    afx_msg void OnUpdatePaste(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -107,3 +107,21 @@
 
 // The page "Rich text"
 #define IDC_RTF 1700
+
+// The frame window: menu, toolbar, accelerators and title; the panes of its status bar
+#define IDR_GALLERY_FRAME 120
+#define IDR_SCHEMES 121
+#define IDD_ABOUT 122
+#define IDC_SCENE_COMBO 1900
+#define ID_SCENE_PREVIOUS 32900
+#define ID_SCENE_NEXT 32901
+#define ID_VIEW_SKIN 32902
+#define ID_VIEW_SCHEME 32903
+#define ID_INDICATOR_SCENE 32904
+#define ID_INDICATOR_SCHEME 32905
+#define ID_SCENE_FIRST 32910
+#define ID_SCENE_LAST 32939
+#define ID_SCHEME_FIRST 32940
+#define ID_SCHEME_LAST 32942
+#define ID_DOCK_FIRST 32950
+#define ID_DOCK_LAST 32953

@@ -94,10 +94,10 @@ void ToolBarPainter::PaintItem(Item& item, bool underMouse) {
 void ToolBarPainter::PaintOpenOutline(const CRect& rect) {
     CPenSelector pen(m_dc, ::GetSysColor(COLOR_3DDKSHADOW));
     POINT outline[] = {{rect.left, rect.bottom},
-                             {rect.left, rect.top},
-                             {rect.right - 1, rect.top},
-                             {rect.right - 1, rect.bottom - 1},
-                             {rect.left, rect.bottom - 1}};
+                       {rect.left, rect.top},
+                       {rect.right - 1, rect.top},
+                       {rect.right - 1, rect.bottom - 1},
+                       {rect.left, rect.bottom - 1}};
     m_dc.Polyline(outline, static_cast<int>(std::size(outline)));
 }
 

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <filesystem>
 
+#include <afxres.h>
+
 #include "automation/RealInput.h"
 #include "automation/Steady.h"
 #include "automation/SystemColors.h"
@@ -12,12 +14,12 @@
 
 namespace {
 
-/// The visible dialog of this process; null when none appears within some seconds.
+/// The visible frame window of this process; null when none appears within some seconds.
 HWND WaitForGallery() {
     for (int look = 0; look < 500; ++look) {
         HWND window = nullptr;
-        while ((window = ::FindWindowExA(nullptr, window, reinterpret_cast<LPCSTR>(WC_DIALOG),
-                                         nullptr)) != nullptr) {
+        while ((window = ::FindWindowExA(nullptr, window, nullptr, "TintKit Gallery")) !=
+               nullptr) {
             DWORD process = 0;
             ::GetWindowThreadProcessId(window, &process);
             if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
@@ -68,8 +70,9 @@ void PictureTour::Run() {
 
 void PictureTour::VisitScenes(const std::string& scheme) {
     const bool isDefault = scheme == "default";
-    ChooseScene("Buttons");
     const std::string suffix = isDefault ? "" : "-" + scheme;
+    TourBars(*this, suffix);
+    ChooseScene("Buttons");
     TourButtons(*this, suffix);
     ChooseScene("Glyphs");
     TourGlyphs(*this, suffix);
@@ -99,17 +102,35 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     Write(window, "gallery-" + scheme);
 }
 
+HWND PictureTour::Contents() const {
+    return ::GetDlgItem(m_gallery, AFX_IDW_PANE_FIRST);
+}
+
+HWND PictureTour::StatusBar() const {
+    return ::GetDlgItem(m_gallery, AFX_IDW_STATUS_BAR);
+}
+
+HWND PictureTour::ToolBar() const {
+    // It lies in the dock bar of one of the four sides.
+    HWND dockBar = nullptr;
+    HWND toolBar = nullptr;
+    while (toolBar == nullptr &&
+           (dockBar = ::FindWindowExA(m_gallery, dockBar, nullptr, nullptr)) != nullptr)
+        toolBar = ::GetDlgItem(dockBar, AFX_IDW_TOOLBAR);
+    return toolBar;
+}
+
 HWND PictureTour::Page() const {
     // The pages are the child dialogs; one of them is visible.
     HWND page = nullptr;
     do
-        page = ::FindWindowExA(m_gallery, page, reinterpret_cast<LPCSTR>(WC_DIALOG), nullptr);
+        page = ::FindWindowExA(Contents(), page, reinterpret_cast<LPCSTR>(WC_DIALOG), nullptr);
     while (page != nullptr && !::IsWindowVisible(page));
     return page;
 }
 
 void PictureTour::ChooseScene(const char* title) const {
-    const HWND list = ::GetDlgItem(m_gallery, IDC_SCENES);
+    const HWND list = ::GetDlgItem(Contents(), IDC_SCENES);
     const LRESULT index = ::SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                          reinterpret_cast<LPARAM>(title));
     RECT item = {};

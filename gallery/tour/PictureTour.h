@@ -33,6 +33,9 @@ public:
 
     HWND Gallery() const { return m_gallery; }
 
+    HWND ToolBar() const;
+    HWND StatusBar() const;
+
     /// The page that the gallery shows now.
     HWND Page() const;
 
@@ -52,6 +55,7 @@ public:
 private:
     void Run();
     void VisitScenes(const std::string& scheme);
+    HWND Contents() const;
 
     std::string m_folder;
     HWND m_gallery = nullptr;

@@ -32,3 +32,6 @@ void TourBitmapButtons(PictureTour& tour, const std::string& suffix);
 
 /// The rich text.
 void TourRichText(PictureTour& tour, const std::string& suffix);
+
+/// The toolbar in each of its states, docked at the top and at the left, and the status bar.
+void TourBars(PictureTour& tour, const std::string& suffix);

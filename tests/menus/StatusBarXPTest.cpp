@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "automation/Picture.h"
@@ -27,7 +28,7 @@ public:
         auto* const frame = std::make_unique<StatusFrame>().release();
         frame->CreateEx(WS_EX_TOPMOST,
                         AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), "Bars",
-                        WS_POPUP | WS_VISIBLE, 60, 40, 400, 240, nullptr, nullptr);
+                        WS_POPUP | WS_VISIBLE, 60, 40, 700, 240, nullptr, nullptr);
         frame->m_bar.Create(frame);
         EXPECT_TRUE(frame->m_bar.SetIndicators(kPanes, kCount));
         frame->RecalcLayout();
@@ -42,22 +43,23 @@ public:
 
 using Frame = StatusFrame<CStatusBarXP>;
 
-bool HasFlatFrames(const Frame& frame) {
+/// Whether each pane has a line of the shadow's colour around it, and only that.
+testing::AssertionResult HasFlatFrames(const Frame& frame) {
     const Picture shown = frame.Show();
     const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
     for (int pane = 0; pane < kCount; ++pane) {
         CRect r;
         frame.m_bar.GetItemRect(pane, r);
-        for (LONG x = r.left; x < r.right; ++x)
-            if (shown.At(x, r.top) != shadow || shown.At(x, r.bottom - 1) != shadow)
-                return false;
         for (LONG y = r.top; y < r.bottom; ++y)
-            if (shown.At(r.left, y) != shadow || shown.At(r.right - 1, y) != shadow)
-                return false;
-        if (shown.At(r.left + 1, r.top + 1) == shadow)
-            return false;
+            for (LONG x = r.left; x < r.right; ++x) {
+                const LONG inset =
+                    std::min({x - r.left, y - r.top, r.right - 1 - x, r.bottom - 1 - y});
+                if (inset < 2 && (shown.At(x, y) == shadow) != (inset == 0))
+                    return testing::AssertionFailure() << "pane " << pane << " at " << x << ", "
+                                                       << y << std::hex << ": " << shown.At(x, y);
+            }
     }
-    return true;
+    return testing::AssertionSuccess();
 }
 
 TEST(StatusBarXP, FramesItsPanesInEveryScheme) {
@@ -65,7 +67,8 @@ TEST(StatusBarXP, FramesItsPanesInEveryScheme) {
     for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
         const automation::SystemColorGuard colors(scheme.colors);
         frame->m_bar.Invalidate();
-        EXPECT_TRUE(PumpUntil([&] { return HasFlatFrames(*frame); })) << scheme.name;
+        PumpUntil([&] { return static_cast<bool>(HasFlatFrames(*frame)); });
+        EXPECT_TRUE(HasFlatFrames(*frame)) << scheme.name;
     }
     frame->m_bar.Invalidate();
     const GdiLedger ledger;
