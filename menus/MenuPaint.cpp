@@ -94,10 +94,11 @@ int ShadowStep(int column, int row) {
     }
 }
 
-COLORREF Darken(COLORREF color, int step) {
-    const int percent = (3 - step) * 5 + 78;
-    return RGB(GetRValue(color) * percent / 100, GetGValue(color) * percent / 100,
-               GetBValue(color) * percent / 100);
+/// @param pixel  in either order of red and blue
+DWORD Darken(DWORD pixel, int step) {
+    const DWORD percent = static_cast<DWORD>((3 - step) * 5 + 78);
+    return (pixel >> 16 & 0xFF) * percent / 100 << 16 | (pixel >> 8 & 0xFF) * percent / 100 << 8 |
+           (pixel & 0xFF) * percent / 100;
 }
 
 /// The part of the shadow along the bottom edge.
@@ -142,7 +143,7 @@ void Shade(const tint::PixelBlock& under, tint::PixelBlock& shown, const Edge& e
     for (int y = area.top; y < area.bottom; ++y)
         for (int x = area.left; x < area.right; ++x)
             if (edge.Covers(x, y))
-                shown.Set(x, y, Darken(under.Get(x, y), edge.Step(x, y)));
+                shown.At(x, y) = Darken(under.At(x, y), edge.Step(x, y));
 }
 
 template <class Edge>

@@ -2,78 +2,74 @@
 #include "menus/PixelBlock.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <utility>
 
 namespace tint {
-namespace {
 
-/// A memory device context, or a null handle.
-HDC AttachMemoryDC(CDC& dc, HDC like) {
-    const HDC memory = ::CreateCompatibleDC(like);
-    if (memory != nullptr)
-        dc.Attach(memory);
-    return memory;
-}
+std::unique_ptr<PixelBlock::Surface> PixelBlock::s_spare;
 
-/// COLORREF has red and blue the other way round than a bitmap's pixel.
-constexpr DWORD SwapRedAndBlue(DWORD color) {
-    return (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
-}
-
-} // namespace
-
-PixelBlock::PixelBlock(HDC target, const RECT& area) : m_selection(AttachMemoryDC(m_dc, target)) {
-    RECT clip = {};
-    RECT shown = {};
-    if (m_dc.GetSafeHdc() == nullptr || ::GetClipBox(target, &clip) == ERROR ||
-        !::IntersectRect(&shown, &area, &clip))
-        return;
-
+PixelBlock::Surface::Surface(HDC like, int surfaceWidth, int surfaceHeight)
+    : width(surfaceWidth), height(surfaceHeight), dc(::CreateCompatibleDC(like)),
+      selection(dc.get()) {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = shown.right - shown.left;
-    info.bmiHeader.biHeight = shown.top - shown.bottom; // negative: top row first
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // top row first
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const HBITMAP bitmap =
-        ::CreateDIBSection(m_dc.GetSafeHdc(), &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    void* memory = nullptr;
+    if (dc != nullptr)
+        bitmap.reset(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &memory, nullptr, 0));
     if (bitmap == nullptr)
         return;
-    m_bitmap.Attach(bitmap);
-    m_selection.Select(bitmap);
-    m_bits = static_cast<DWORD*>(bits);
-    m_area = shown;
+    selection.Select(bitmap.get());
+    bits = static_cast<DWORD*>(memory);
+}
+
+std::unique_ptr<PixelBlock::Surface> PixelBlock::TakeSurface(HDC like, int width, int height) {
+    if (s_spare != nullptr && s_spare->Holds(width, height))
+        return std::move(s_spare);
+    if (s_spare != nullptr) {
+        width = (std::max)(width, s_spare->width);
+        height = (std::max)(height, s_spare->height);
+    }
+    auto made = std::make_unique<Surface>(like, width, height);
+    return made->bits == nullptr ? nullptr : std::move(made);
+}
+
+PixelBlock::PixelBlock(HDC target, const RECT& area) {
+    RECT clip = {};
+    RECT shown = {};
+    if (::GetClipBox(target, &clip) == ERROR || !::IntersectRect(&shown, &area, &clip))
+        return;
+    m_surface = TakeSurface(target, shown.right - shown.left, shown.bottom - shown.top);
+    if (m_surface != nullptr)
+        m_area = shown;
+}
+
+PixelBlock::~PixelBlock() {
+    if (m_surface != nullptr)
+        s_spare = std::move(m_surface);
 }
 
 void PixelBlock::ReadFrom(HDC source) {
-    const int width = m_area.right - m_area.left;
-    const int height = m_area.bottom - m_area.top;
-    if (m_bits == nullptr)
+    if (m_surface == nullptr)
         return;
-    ::GdiFlush();
-    std::fill_n(m_bits, static_cast<std::size_t>(width) * height, 0xFFFFFF);
-    ::BitBlt(m_selection.dc(), 0, 0, width, height, source, m_area.left, m_area.top, SRCCOPY);
-    ::GdiFlush(); // the pixels are read past GDI
+    for (int y = m_area.top; y < m_area.bottom; ++y)
+        std::fill_n(&At(m_area.left, y), Width(), DWORD{0xFFFFFF});
+    ::BitBlt(m_surface->dc.get(), 0, 0, Width(), Height(), source, m_area.left, m_area.top,
+             SRCCOPY);
+    // The pixels are read past GDI, which may have put the copy off.  Any function that returns more
+    // than success makes it catch up; GdiFlush would also send the window's picture to the display.
+    ::GetPixel(m_surface->dc.get(), 0, 0);
 }
 
 void PixelBlock::WriteTo(HDC target) const {
-    if (m_bits != nullptr)
-        ::BitBlt(target, m_area.left, m_area.top, m_area.right - m_area.left,
-                 m_area.bottom - m_area.top, m_selection.dc(), 0, 0, SRCCOPY);
-}
-
-COLORREF PixelBlock::Get(int x, int y) const {
-    return SwapRedAndBlue(At(x, y));
-}
-
-void PixelBlock::Set(int x, int y, COLORREF color) {
-    At(x, y) = SwapRedAndBlue(color);
-}
-
-DWORD& PixelBlock::At(int x, int y) const {
-    const std::ptrdiff_t stride = m_area.right - m_area.left;
-    return m_bits[(y - m_area.top) * stride + (x - m_area.left)];
+    if (m_surface == nullptr)
+        return;
+    ::BitBlt(target, m_area.left, m_area.top, Width(), Height(), m_surface->dc.get(), 0, 0,
+             SRCCOPY);
+    ::GetPixel(m_surface->dc.get(), 0, 0); // the copy is made before the pixels change again
 }
 
 } // namespace tint

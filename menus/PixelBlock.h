@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <afxwin.h>
+#include <windows.h>
+
+#include <cstddef>
+#include <memory>
+#include <type_traits>
 
 #include "draw/ObjectSelection.h"
 
@@ -12,15 +16,22 @@ namespace tint {
 ///
 ///     PixelBlock block(dc, area);
 ///     block.ReadFrom(dc);
-///     block.Set(x, y, Darker(block.Get(x, y)));
+///     block.At(x, y) = Darker(block.At(x, y));
 ///     block.WriteTo(dc);
 ///
 /// Coordinates are those of the device context.  Where no memory can be had the block is empty.
+///
+/// Making a bitmap costs more than all the rest, so the last one is kept for the next block (and grows
+/// with it, at most to the size of the largest popup).
 class PixelBlock {
 public:
     /// @param target  what the block will be written to; pixels that it would not show are left out
     /// @param area    logical coordinates
     PixelBlock(HDC target, const RECT& area);
+    ~PixelBlock();
+
+    PixelBlock(const PixelBlock&) = delete;
+    PixelBlock& operator=(const PixelBlock&) = delete;
 
     /// The part of the area that the block holds; empty when there is nothing to do.
     const RECT& Area() const { return m_area; }
@@ -30,18 +41,46 @@ public:
     void ReadFrom(HDC source);
     void WriteTo(HDC target) const;
 
-    /// The pixel must lie in Area().
-    COLORREF Get(int x, int y) const;
-    void Set(int x, int y, COLORREF color);
+    /// A pixel, 0x00RRGGBB: red and blue the other way round than in a COLORREF.  It must lie in
+    /// Area().
+    DWORD& At(int x, int y) const {
+        const std::ptrdiff_t row = y - m_area.top;
+        return m_surface->bits[row * m_surface->width + (x - m_area.left)];
+    }
 
 private:
-    DWORD& At(int x, int y) const;
+    struct DCDeleter {
+        void operator()(HDC dc) const { ::DeleteDC(dc); }
+    };
+    struct BitmapDeleter {
+        void operator()(HBITMAP bitmap) const { ::DeleteObject(bitmap); }
+    };
+
+    /// A bitmap in memory, selected into a device context of its own.
+    struct Surface {
+        Surface(HDC like, int width, int height);
+
+        bool Holds(int wantedWidth, int wantedHeight) const {
+            return bits != nullptr && wantedWidth <= width && wantedHeight <= height;
+        }
+
+        int width;
+        int height;
+        std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDeleter> bitmap;
+        std::unique_ptr<std::remove_pointer_t<HDC>, DCDeleter> dc;
+        ObjectSelection selection; ///< last: the bitmap is selected out first
+        DWORD* bits = nullptr;     ///< top-down rows; null: there is no bitmap
+    };
+
+    static std::unique_ptr<Surface> TakeSurface(HDC like, int width, int height);
+
+    int Width() const { return m_area.right - m_area.left; }
+    int Height() const { return m_area.bottom - m_area.top; }
+
+    static std::unique_ptr<Surface> s_spare; ///< what the last block used
 
     RECT m_area = {};
-    CBitmap m_bitmap;
-    CDC m_dc;
-    ObjectSelection m_selection; ///< last: the bitmap is selected out first
-    DWORD* m_bits = nullptr;     ///< top-down rows of 0x00RRGGBB
+    std::unique_ptr<Surface> m_surface; ///< null: the block is empty
 };
 
 } // namespace tint

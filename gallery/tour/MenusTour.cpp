@@ -17,7 +17,7 @@ bool IsShownByUs(HWND window) {
 
 /// Waits until that many windows of a class and title are shown, and the last opened is at rest.
 HWND WaitForWindow(const char* windowClass, const char* title, int count) {
-    for (int look = 0; look < 150; ++look) {
+    for (int look = 0; look < 500; ++look) {
         int shown = 0;
         HWND topmost = nullptr;
         HWND window = nullptr;
@@ -35,6 +35,17 @@ HWND WaitForWindow(const char* windowClass, const char* title, int count) {
         ::Sleep(20);
     }
     return nullptr;
+}
+
+/// The page's button, once the page is shown: on a busy machine the gallery looks at rest before.
+HWND WaitForOpenButton(const PictureTour& tour) {
+    HWND button = nullptr;
+    for (int look = 0; look < 500 && button == nullptr; ++look) {
+        ::Sleep(20);
+        button = ::GetDlgItem(tour.Page(), IDC_MENUS_OPEN);
+    }
+    automation::WaitUntilSteady(tour.Gallery());
+    return button;
 }
 
 HWND WaitForPopups(int count) {
@@ -99,8 +110,10 @@ void TourContextMenu(PictureTour& tour, const std::string& suffix) {
     const HWND area = ::GetDlgItem(tour.Page(), IDC_MENUS_AREA);
     automation::Click(area, automation::MouseButton::Right);
     const HWND popup = WaitForPopups(1);
-    if (popup == nullptr)
+    if (popup == nullptr) {
+        tour.Write({}, "menu-context" + suffix); // says that it is missing
         return;
+    }
     automation::TypeKey(VK_DOWN);
     automation::TypeKey(VK_DOWN);
     automation::WaitUntilSteady(popup);
@@ -111,12 +124,15 @@ void TourContextMenu(PictureTour& tour, const std::string& suffix) {
 } // namespace
 
 void TourMenus(PictureTour& tour, const std::string& suffix) {
-    automation::Click(::GetDlgItem(tour.Page(), IDC_MENUS_OPEN));
+    automation::Click(WaitForOpenButton(tour));
     tour.ParkMouse();
-    if (const HWND frame = WaitForWindow(nullptr, "Menus", 1)) {
-        TourFrame(tour, frame, suffix);
-        WaitForWindow(nullptr, "Menus", 0);
+    const HWND frame = WaitForWindow(nullptr, "Menus", 1);
+    if (frame == nullptr) {
+        tour.Write({}, "menu" + suffix); // says that it is missing
+        return;
     }
+    TourFrame(tour, frame, suffix);
+    WaitForWindow(nullptr, "Menus", 0);
     ::SetForegroundWindow(tour.Gallery());
     ::SendMessageA(tour.Gallery(), WM_NCACTIVATE, TRUE, 0);
     automation::WaitUntilSteady(tour.Gallery());

@@ -124,27 +124,6 @@ TEST(Conversion, TakesLongCaptionsAndLongMenus) {
     Convert(reinterpret_cast<HMENU>(0x12345)); // no menu at all
 }
 
-TEST(Conversion, RecordsSerializeAsMapsDo) {
-    tint::MenuRecords written;
-    MENUITEMINFOA item = {};
-    item.wID = 5;
-    written.SetText(item, "&Text\tF1");
-    written.imageOfCommand[5] = {reinterpret_cast<HIMAGELIST>(0x77), 3};
-    CMemFile file;
-    {
-        CArchive archive(&file, CArchive::store);
-        written.textOfCommand.Serialize(archive);
-        written.imageOfCommand.Serialize(archive);
-    }
-    file.SeekToBegin();
-    tint::MenuRecords read;
-    CArchive archive(&file, CArchive::load);
-    read.textOfCommand.Serialize(archive);
-    read.imageOfCommand.Serialize(archive);
-    EXPECT_STREQ(read.Text(item), "&Text\tF1");
-    EXPECT_EQ(read.Image(item).index, 3);
-}
-
 // --- Images from toolbars -----------------------------------------------------------------------
 
 /// A toolbar with an image list of its own, for some commands.

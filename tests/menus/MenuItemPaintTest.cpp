@@ -407,7 +407,7 @@ TEST(MenuItemPaint, CountsItselfAndLosesNothing) {
     ::CheckMenuItem(menu, kId, MF_CHECKED);
     CMenuXP::ConvertMenu(nullptr, menu, true, false);
     const RowCanvas canvas;
-    canvas.Paint(menu, kPopup, 0); // what is kept is in place by now
+    canvas.Paint(menu, kBar, ODS_SELECTED); // what is kept is in place by now
     const GdiLedger ledger;
     const BYTE before = tint::GetMenuState().paintCount;
     canvas.Paint(menu, kPopup, ODS_SELECTED);

@@ -89,6 +89,7 @@ TEST(MenuItem, SizesOfAPopupAreItsWidestTexts) {
     EXPECT_EQ(Measure(DataOf(menu, 2)).cx, 42);
     EXPECT_EQ(Measure(DataOf(menu, 2)).cy, metrics.tmHeight / 2 + 2);
     EXPECT_EQ(Measure(0x123456, ODT_LISTBOX).cx, 0) << "not a menu's";
+    EXPECT_EQ(tint::MenuItemData::PopupItem(0x120, 0x1FF, 0x12345).Word(), 0x2345FF20U);
 
     const HMENU bar = ::CreateMenu();
     ::AppendMenuA(bar, MF_STRING, 1, "&File");
@@ -96,14 +97,6 @@ TEST(MenuItem, SizesOfAPopupAreItsWidestTexts) {
     EXPECT_EQ(Measure(DataOf(bar, 0)).cx, TextWidth("File") + 4);
     EXPECT_EQ(DataOf(bar, 0) & 0xFFFF, 0U);
     ::DestroyMenu(bar);
-}
-
-TEST(MenuItem, DataKeepsWhatFitsIntoItsBits) {
-    using tint::MenuItemData;
-    const auto data = MenuItemData::PopupItem(0x120, 0x1FF, 0x12345);
-    EXPECT_EQ(data.Word(), 0x2345FF20U);
-    EXPECT_EQ(Measure(data.Word()).cx, 0x2345 + 0xFF + 42);
-    EXPECT_EQ(MenuItemData::BarItem(0x12345).Word(), 0x23450000U);
 }
 
 struct MnemonicCase {

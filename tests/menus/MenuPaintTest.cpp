@@ -91,6 +91,7 @@ TEST(MenuShadow, IsTheRampOfTheRule) {
 
 TEST(MenuEffects, SurviveAbsurdRectanglesAndContexts) {
     const Canvas canvas(40, 30);
+    DrawMenuShadow(canvas.dc(), canvas.dc(), {0, 0, 40, 30}); // what is kept is in place by now
     const GdiLedger ledger;
     for (const RECT& rect : {RECT{INT_MIN, INT_MIN, INT_MAX, INT_MAX}, RECT{9, 9, -9, -9},
                              RECT{0, 0, INT_MAX, INT_MAX}, RECT{0, 0, INT_MIN, INT_MIN}})
