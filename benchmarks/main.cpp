@@ -7,6 +7,7 @@
 #include "benchmarks/ButtonBench.h"
 #include "benchmarks/ComboBench.h"
 #include "benchmarks/GlyphBench.h"
+#include "benchmarks/ListBench.h"
 #include "benchmarks/MenuBench.h"
 #include "benchmarks/Report.h"
 
@@ -26,7 +27,7 @@ int main(int argc, char** argv) {
         return 1;
 
     std::vector<Row> rows = BenchButton();
-    for (const auto& bench : {BenchGlyph, BenchCombo, BenchMenus}) {
+    for (const auto& bench : {BenchGlyph, BenchCombo, BenchList, BenchMenus}) {
         const std::vector<Row> more = bench();
         rows.insert(rows.end(), more.begin(), more.end());
     }

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "gallery/GalleryFrame.h"
+#include "gallery/GalleryLog.h"
 #include "gallery/GalleryOptions.h"
 
 namespace {
@@ -21,6 +22,9 @@ BOOL CGalleryApp::InitInstance() {
         m_exitCode = 2;
         return FALSE;
     }
+
+    GalleryLog().LogTruncate("The gallery starts.\n");
+    AfxInitRichEdit2();
 
     auto* const gallery = new CGalleryFrame; // deletes itself with its window
     if (!gallery->CreateGallery()) {
@@ -42,5 +46,6 @@ int CGalleryApp::ExitInstance() {
     CWinApp::ExitInstance();
     if (m_tour != nullptr && !m_tour->Finish())
         m_exitCode = 1;
+    GalleryLog().Log("The gallery ends with status %d.\n", m_exitCode);
     return m_exitCode;
 }

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/GalleryDlg.h"
 
+#include "gallery/BitmapButtonsPage.h"
 #include "gallery/ButtonsPage.h"
 #include "gallery/CombosPage.h"
+#include "gallery/GalleryLog.h"
 #include "gallery/GlyphsPage.h"
+#include "gallery/LinksPage.h"
+#include "gallery/ListPage.h"
 #include "gallery/MenusPage.h"
 #include "gallery/PicturesPage.h"
+#include "gallery/RichTextPage.h"
 #include "gallery/resource.h"
 
 BEGIN_MESSAGE_MAP(CGalleryDlg, CDialog)
@@ -16,8 +21,12 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CButtonsPage>());
     m_pages.push_back(std::make_unique<CGlyphsPage>());
     m_pages.push_back(std::make_unique<CCombosPage>());
+    m_pages.push_back(std::make_unique<CListPage>());
     m_pages.push_back(std::make_unique<CMenusPage>());
     m_pages.push_back(std::make_unique<CPicturesPage>());
+    m_pages.push_back(std::make_unique<CLinksPage>());
+    m_pages.push_back(std::make_unique<CBitmapButtonsPage>());
+    m_pages.push_back(std::make_unique<CRichTextPage>());
 }
 
 BOOL CGalleryDlg::CreateIn(CFrameWnd& frame) {
@@ -63,6 +72,7 @@ void CGalleryDlg::ShowScene(int scene) {
     GetPage().ShowWindow(SW_HIDE);
     m_scene = (scene + GetSceneCount()) % GetSceneCount();
     m_scenes.SetCurSel(m_scene);
+    GalleryLog().Log("Scene %s\n", GetPage().GetTitle());
     m_title.SetWindowText(GetPage().GetTitle());
     SetDlgItemText(IDC_DESCRIPTION, GetPage().GetDescription());
     GetPage().ShowWindow(SW_SHOW);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/PicturesPage.h"
 
+#include "gallery/ProgramFolder.h"
 #include "gallery/resource.h"
 
 namespace {
@@ -8,15 +9,9 @@ namespace {
 constexpr int kOwnWidth = 80; // of the sample pictures, in pixels
 constexpr int kOwnHeight = 52;
 
-/// The path of a sample picture, which stands beside the program.
+/// The path of a sample picture.
 CString SamplePath(LPCTSTR name) {
-    char program[MAX_PATH] = "";
-    ::GetModuleFileName(nullptr, program, MAX_PATH);
-    CString path(program);
-    path = path.Left(path.ReverseFind('\\') + 1);
-    path += "pictures\\";
-    path += name;
-    return path;
+    return BesideProgram(CString("pictures\\") + name);
 }
 
 void ResizeTo(CWnd& window, int width, int height) {

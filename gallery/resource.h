@@ -9,6 +9,15 @@
 #define IDD_PICTURES 103
 #define IDD_GLYPHS 104
 #define IDD_COMBOS 105
+#define IDD_LIST 106
+#define IDD_LINKS 107
+#define IDD_BITMAP_BUTTONS 108
+#define IDD_RICH_TEXT 109
+
+#define IDB_STRIP_1 200
+#define IDB_STRIP_3 201
+#define IDB_STRIP_4 202
+#define IDB_STRIP_6 203
 
 // The gallery window
 #define IDC_SCENES 1001
@@ -74,6 +83,30 @@
 #define IDM_LAYER_ADD 32815
 #define IDM_LAYER_REMOVE 32816
 #define IDM_MENUS_LAST 32816
+
+// The page "List"
+#define IDC_LIST 1501
+
+// The page "Links"
+#define IDC_LINK_FRESH 1600
+#define IDC_LINK_VISITED 1601
+#define IDC_LINK_NEVER 1602
+#define IDC_LINK_ALWAYS 1603
+#define IDC_LINK_TAB 1604
+#define IDC_LINK_HOVER 1605
+#define IDC_LINK_BUTTON 1606
+#define IDC_LINK_CLICKS 1607
+#define IDC_LINK_LEFT 1608
+#define IDC_LINK_CENTRED 1609
+#define IDC_LINK_RIGHT 1610
+
+// The page "Bitmap buttons"; the strips of 1, 3, 4 and 6 frames have consecutive identifiers
+#define IDC_BITMAP_FIRST 1650
+#define IDC_BITMAP_LAST 1653
+#define IDC_BITMAP_DISABLE 1654
+
+// The page "Rich text"
+#define IDC_RTF 1700
 
 // The frame window: menu, toolbar, accelerators and title; the panes of its status bar
 #define IDR_GALLERY_FRAME 120

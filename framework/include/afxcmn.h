@@ -6,5 +6,10 @@
 #include <afxwin.h>
 #include <commctrl.h>
 
+#include "afx/CHeaderCtrl.h"
+#include "afx/CImageList.h"
+#include "afx/CListCtrl.h"
+#include "afx/CRichEditCtrl.h"
 #include "afx/CStatusBarCtrl.h"
 #include "afx/CToolBarCtrl.h"
+#include "afx/CToolTipCtrl.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <afxwin.h>
+#include <afxcmn.h>
 
 #include <algorithm>
 #include <memory>
@@ -277,6 +277,7 @@ void DeleteTemporaryObjects() {
     CMenu::DeleteTempMap();
     CDC::DeleteTempMap();
     CGdiObject::DeleteTempMap();
+    CImageList::DeleteTempMap();
 }
 
 void UpdateCommandItems(CWnd* wnd) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // CWnd: the connection of object and window, creation and destruction.
-#include <afxwin.h>
+#include <afxcmn.h>
 
 #include <cstdio>
 
+#include "CommonControls.h"
 #include "CreationHook.h"
 #include "HandleMap.h"
 #include "Handles.h"
@@ -43,6 +44,10 @@ CListBox* afx::ListBoxFromHandle(HWND hWnd) {
     return ControlFromHandle<CListBox>(hWnd);
 }
 
+CHeaderCtrl* afx::HeaderFromHandle(HWND hWnd) {
+    return ControlFromHandle<CHeaderCtrl>(hWnd);
+}
+
 CWnd::CWnd()
     : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_toolTips(false),
       m_modal(false), m_modalResult(0) {}
@@ -75,6 +80,7 @@ void PASCAL CWnd::DeleteTempMap() {
     WindowMap().DeleteTemp();
     ControlMap<CScrollBar>().DeleteTemp();
     ControlMap<CListBox>().DeleteTemp();
+    ControlMap<CHeaderCtrl>().DeleteTemp();
 }
 
 BOOL CWnd::Attach(HWND hWnd) {

@@ -99,10 +99,18 @@ void PictureTour::VisitScenes(const std::string& scheme) {
     TourGlyphs(*this, suffix);
     ChooseScene("Combo boxes");
     TourCombos(*this, suffix);
+    ChooseScene("List");
+    TourList(*this, suffix);
     ChooseScene("Menus");
     TourMenus(*this, suffix);
     ChooseScene("Pictures");
     TourPictures(*this, suffix);
+    ChooseScene("Links");
+    TourLinks(*this, suffix);
+    ChooseScene("Bitmap buttons");
+    TourBitmapButtons(*this, suffix);
+    ChooseScene("Rich text");
+    TourRichText(*this, suffix);
 
     // The whole window, with something hot in it.  Drawn afresh: Wine's check box may keep its focus
     // mark after the focus has gone.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The control classes: that owner-draw controls draw, measure and compare through the virtual
-// members, and which bitmap a bitmap button shows.
+// members, which bitmap a bitmap button shows, and what list views and image lists keep.
+#include <afxcmn.h>
 #include <afxext.h>
 
 #include <gtest/gtest.h>
@@ -26,6 +27,67 @@ protected:
 
 const DWORD Visible = WS_CHILD | WS_VISIBLE;
 const CRect Place(10, 10, 110, 60);
+
+// ---- Common controls ----------------------------------------------------------------------------
+
+TEST_F(Controls, ListView) {
+    CListCtrl list;
+    ASSERT_TRUE(list.Create(Visible | LVS_REPORT, Place, &m_parent, 5));
+    list.InsertColumn(0, "left");
+    list.InsertColumn(1, "right", LVCFMT_RIGHT, 30);
+    LVCOLUMN column = {};
+    column.mask = LVCF_FMT | LVCF_WIDTH;
+    EXPECT_TRUE(list.GetColumn(1, &column));
+    EXPECT_TRUE((column.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT && column.cx == 30);
+    int order[] = {1, 0};
+    list.SetColumnOrderArray(2, order);
+    int found[2] = {};
+    EXPECT_TRUE(list.GetColumnOrderArray(found));
+    EXPECT_EQ(found[0], 1);
+    EXPECT_EQ(list.GetHeaderCtrl()->GetItemCount(), 2);
+
+    const CString text(std::string(300, 'x').c_str());
+    for (int i = 0; i < 3; ++i)
+        list.InsertItem(LVIF_TEXT | LVIF_PARAM, i, i == 1 ? text : "b", 0, 0, 0, 10 + i);
+    EXPECT_EQ(list.GetItemText(1, 0), text);
+    list.SetItemText(2, 1, "sub");
+    EXPECT_EQ(list.GetItemText(2, 1), "sub");
+    EXPECT_TRUE(list.GetItemText(2, 7).IsEmpty());
+    list.SetItemData(1, 77);
+    EXPECT_EQ(list.GetItemData(1), 77U);
+    for (const int i : {0, 2})
+        list.SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+    POSITION position = list.GetFirstSelectedItemPosition();
+    EXPECT_EQ(list.GetNextSelectedItem(position), 0);
+    EXPECT_EQ(list.GetNextSelectedItem(position), 2);
+    EXPECT_EQ(position, nullptr);
+    CRect bounds;
+    CRect cell;
+    EXPECT_TRUE(list.GetItemRect(1, &bounds, LVIR_BOUNDS));
+    EXPECT_TRUE(list.GetSubItemRect(1, 1, LVIR_BOUNDS, cell));
+    EXPECT_TRUE(cell.top == bounds.top && cell.Width() == 30);
+    EXPECT_TRUE(list.GetItemRect(1, &bounds, LVIR_LABEL));
+    EXPECT_EQ(list.HitTest(bounds.TopLeft() + CSize(2, 2)), 1);
+}
+
+TEST_F(Controls, ImageList) {
+    HIMAGELIST handle = nullptr;
+    {
+        CImageList images;
+        ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32, 0, 1));
+        handle = images;
+        EXPECT_EQ(CImageList::FromHandle(handle), &images);
+        EXPECT_EQ(images.Add(::LoadIcon(nullptr, IDI_APPLICATION)), 0);
+        EXPECT_EQ(images.GetImageCount(), 1);
+        EXPECT_TRUE(images.Detach() == handle && images.GetSafeHandle() == nullptr);
+        EXPECT_EQ(CImageList::FromHandlePermanent(handle), nullptr);
+        EXPECT_EQ(CImageList::FromHandle(handle)->GetImageCount(), 1);
+        CImageList::DeleteTempMap(); // leaves the list itself alone
+        EXPECT_EQ(::ImageList_GetImageCount(handle), 1);
+        images.Attach(handle);
+    }
+    EXPECT_EQ(::ImageList_GetImageCount(handle), 0) << "destroyed with its object";
+}
 
 // ---- Owner-draw controls ------------------------------------------------------------------------
 

@@ -163,3 +163,5 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 /// Accepted for source compatibility: there are no ActiveX controls.
 void AFXAPI AfxEnableControlContainer();
+/// Loads the rich edit control, version 2.0 and later; once is enough. FALSE when there is none.
+BOOL AFXAPI AfxInitRichEdit2();

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/GalleryLog.h"
+
+CCadDebugLog& GalleryLog() {
+    static CCadDebugLog log;
+    return log;
+}
