@@ -10,6 +10,7 @@
 #include "benchmarks/ListBench.h"
 #include "benchmarks/MenuBench.h"
 #include "benchmarks/Report.h"
+#include "benchmarks/ToolBarBench.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ int main(int argc, char** argv) {
         return 1;
 
     std::vector<Row> rows = BenchButton();
-    for (const auto& bench : {BenchGlyph, BenchCombo, BenchList, BenchMenus}) {
+    for (const auto& bench : {BenchGlyph, BenchCombo, BenchList, BenchMenus, BenchToolBar}) {
         const std::vector<Row> more = bench();
         rows.insert(rows.end(), more.begin(), more.end());
     }
