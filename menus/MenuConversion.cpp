@@ -45,6 +45,9 @@ public:
     void MakeOwnerDrawn(MenuItemData data) {
         Write(MIIM_FTYPE | MIIM_DATA, OwnerDrawnType(), data);
     }
+    void MakeSystemDrawn() {
+        Write(MIIM_FTYPE, m_info.fType & ~UINT{MFT_OWNERDRAW | MFT_BITMAP}, MenuItemData(0));
+    }
     void SetData(MenuItemData data) { Write(MIIM_DATA, 0, data); }
 
 private:
@@ -190,4 +193,13 @@ void CMenuXP::ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar) {
         }
         Conversion(menu, menuBar, images).Run();
     });
+}
+
+void CMenuXP::RestoreMenu(HMENU menu) {
+    const int count = ::GetMenuItemCount(menu);
+    for (int position = 0; position < count; ++position) {
+        MenuItem item(menu, position);
+        if (item.IsRead() && item.IsOwnerDrawn())
+            item.MakeSystemDrawn();
+    }
 }

@@ -29,25 +29,6 @@ HWND WaitForGallery() {
     return nullptr;
 }
 
-/// Flat menu bars, as Windows has them always and Wine when it is asked to.
-class FlatMenus {
-public:
-    FlatMenus() {
-        ::SystemParametersInfoA(SPI_GETFLATMENU, 0, &m_former, 0);
-        Set(TRUE);
-    }
-    ~FlatMenus() { Set(m_former); }
-    FlatMenus(const FlatMenus&) = delete;
-    FlatMenus& operator=(const FlatMenus&) = delete;
-
-private:
-    static void Set(BOOL flat) {
-        ::SystemParametersInfoA(SPI_SETFLATMENU, 0, reinterpret_cast<PVOID>(INT_PTR{flat}), 0);
-    }
-
-    BOOL m_former = FALSE;
-};
-
 } // namespace
 
 PictureTour::PictureTour(std::string folder) : m_folder(std::move(folder)) {
@@ -80,7 +61,6 @@ void PictureTour::Run() {
     ::SetForegroundWindow(m_gallery);
     // Where no window manager runs, nobody tells the caption that its window is the active one.
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
-    const FlatMenus flatMenus;
     WPARAM command = ID_SCHEME_FIRST;
     for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
         ::SendMessageA(m_gallery, WM_COMMAND, command++, 0);

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// The skin switch of a window's menus, and the rest of its menu bar.
+#include <gtest/gtest.h>
+
+#include "automation/RealInput.h"
+#include "draw/Skin.h"
+#include "tests/menus/MenuTesting.h"
+#include "tests/support/Pump.h"
+
+namespace {
+
+bool IsOwnerDrawn(HMENU menu) {
+    MENUITEMINFOA info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE;
+    ::GetMenuItemInfoA(menu, 0, TRUE, &info);
+    return (info.fType & MFT_OWNERDRAW) != 0;
+}
+
+TEST(MenuSkin, GoesAndComesWithItsSwitch) {
+    MenuWindow window({"&One", "&Two"});
+    for (const bool enabled : {true, false, true}) {
+        tint::EnableSkin(window, enabled);
+        EXPECT_EQ(IsOwnerDrawn(window.Bar()), enabled);
+        EXPECT_TRUE(WhileMenusRun([&] {
+            automation::TypeKey('F', VK_MENU);
+            const HWND popup = WaitForPopup();
+            EXPECT_EQ(::GetPropA(popup, "XPWndProp_OldProc") != nullptr, enabled);
+            EXPECT_EQ(IsOwnerDrawn(window.File()), enabled);
+            automation::TypeKey('T'); // the mnemonic works either way
+            EXPECT_TRUE(WaitForNoPopup());
+        }));
+        char text[16] = "";
+        ::GetMenuStringA(window.File(), 1, text, sizeof text, MF_BYPOSITION);
+        EXPECT_STREQ(text, "&Two");
+    }
+    PumpFor();
+    EXPECT_EQ(window.m_commands.size(), 3U);
+}
+
+TEST(MenuSkin, TheBarHasTheColorOfItsItemsToItsEnd) {
+    const MenuWindow window({"&One"});
+    PumpFor();
+    MENUBARINFO bar = {};
+    bar.cbSize = sizeof bar;
+    ASSERT_TRUE(::GetMenuBarInfo(window, OBJID_MENU, 0, &bar));
+    const automation::Picture shown = automation::CaptureScreen(bar.rcBar);
+    for (int x = 0; x < shown.width; ++x)
+        ASSERT_EQ(shown.At(x, 1), ::GetSysColor(COLOR_BTNFACE)) << x;
+}
+
+} // namespace
