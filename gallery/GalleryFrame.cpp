@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "controls/ButtonXP.h"
 #include "draw/DrawUtil.h"
 #include "draw/Skin.h"
 #include "gallery/resource.h"
@@ -13,6 +14,20 @@ namespace {
 constexpr UINT ArrowOf(int command) {
     return static_cast<WORD>(-command);
 }
+
+class CAboutDlg : public CDialog {
+public:
+    explicit CAboutDlg(CWnd* parent) : CDialog(IDD_ABOUT, parent) {}
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, IDOK, m_ok);
+    }
+
+private:
+    CButtonXP m_ok;
+};
 
 constexpr int kComboPlace = 3; // among the toolbar's buttons, with a gap on each side
 constexpr int kComboWidth = 140;
@@ -83,6 +98,7 @@ BOOL CGalleryFrame::CreateToolBar() {
         return FALSE;
     for (int scene = 0; scene < m_contents.GetSceneCount(); ++scene)
         m_sceneCombo.AddString(m_contents.GetSceneTitle(scene));
+    m_sceneCombo.SetVisibleRows(m_contents.GetSceneCount());
     return m_toolBar.InsertControl(kComboPlace, m_sceneCombo);
 }
 
@@ -250,5 +266,5 @@ void CGalleryFrame::OnUpdateDock(CCmdUI* item) {
 }
 
 void CGalleryFrame::OnAbout() {
-    CDialog(IDD_ABOUT, this).DoModal();
+    CAboutDlg(this).DoModal();
 }
