@@ -25,7 +25,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const bool decoded = direct.DecodeJpeg(&stream);
     fuzz::ReadWhole(direct); // after a failure too: the image may be partly filled
     if (decoded && direct.ApplyOrientation()) {
-        fuzz::Require(direct.Resample(5, 7, tint::kBilinear, tint::kOverflowRepeat));
+        direct.Resample(5, 7, tint::kBilinear, tint::kOverflowRepeat); // a long row is refused
         fuzz::ReadWhole(direct);
     }
 
