@@ -133,40 +133,31 @@ double LargestError(const IsImage& source, const IsImage& target, const Resample
     return largest;
 }
 
-std::vector<const ResampleOps*> AllOps() {
-    std::vector<const ResampleOps*> all = {&PlainResampleOps()};
-    for (const ResampleOps* ops : {Sse2ResampleOps(), Avx2ResampleOps()}) {
-        if (ops)
-            all.push_back(ops);
-    }
-    return all;
-}
-
 TEST(Resample, EveryVariantAgreesWithTheDirectSum) {
     const uint32_t sizes[][4] = {
-        {21, 17, 84, 68}, {19, 13, 50, 31},  {3, 2, 11, 9},    {1, 1, 7, 5},     {40, 3, 300, 5},
-        {2, 40, 5, 131},  {48, 36, 12, 9},   {53, 47, 17, 13}, {30, 20, 29, 19}, {23, 19, 1, 1},
-        {5, 90, 4, 2},    {9000, 2, 300, 1}, {37, 5, 12, 14},  {9, 31, 40, 8},   {15, 12, 15, 29},
-        {15, 12, 15, 7},  {13, 11, 37, 24}};
+        {21, 17, 84, 68}, {3, 2, 11, 9},    {1, 1, 7, 5},     {40, 3, 300, 5}, {2, 40, 5, 131},
+        {53, 47, 17, 13}, {30, 20, 29, 19}, {23, 19, 1, 1},   {5, 90, 4, 2},   {9000, 2, 300, 1},
+        {37, 5, 12, 14},  {9, 31, 40, 8},   {15, 12, 15, 29}, {15, 12, 15, 7}, {13, 11, 37, 24}};
+    const ResampleOps* const variants[] = {&PlainResampleOps(), Sse2ResampleOps(),
+                                           Avx2ResampleOps()};
     for (const auto& [width, height, newWidth, newHeight] : sizes) {
         const IsImage source = MakeImage(width, height);
-        // All methods are tried at the last size.
-        const bool last = &sizes[16][0] == &width;
+        const bool allMethods = width == 13;
         for (int32_t method = kNearest; method <= kCatmullRom; ++method) {
-            if (!last && method != kLanczos && method != kBilinear && method != kMitchell)
+            if (!allMethods && method != kLanczos && method != kBilinear && method != kMitchell)
                 continue;
             for (const int32_t overflow : {kOverflowRepeat, kOverflowWrap, kOverflowBackground}) {
-                for (const bool averaging : {true, false}) {
-                    std::vector<IsImage> targets;
-                    for (const ResampleOps* ops : AllOps()) {
-                        IsImage& target = targets.emplace_back();
-                        target.CreateImage(newWidth, newHeight, 24);
-                        const ResampleMethod how = {method, overflow, averaging};
-                        ASSERT_EQ(ResamplePixels(source, target, how, *ops), nullptr);
-                        EXPECT_LE(LargestError(source, target, how), 1)
-                            << ops->name << ", method " << method << ", overflow " << overflow
-                            << ", averaging " << averaging << ", " << width << " to " << newWidth;
-                    }
+                for (int i = 0; i < 6; ++i) {
+                    const ResampleOps* const ops = variants[i / 2];
+                    const ResampleMethod how = {method, overflow, i % 2 == 0};
+                    IsImage target;
+                    target.CreateImage(newWidth, newHeight, 24);
+                    if (!ops)
+                        continue; // not on this processor
+                    ASSERT_EQ(ResamplePixels(source, target, how, *ops), nullptr);
+                    EXPECT_LE(LargestError(source, target, how), 1)
+                        << ops->name << ", method " << method << ", overflow " << overflow
+                        << ", averaging " << how.averaging << ", " << width << " to " << newWidth;
                 }
             }
         }
@@ -177,22 +168,6 @@ TEST(Resample, MoreRowsThanWeightsAreKeptFor) {
     IsImage source = MakeImage(1, 9), target;
     ASSERT_TRUE(source.Resample(1, 66000, kBilinear, kOverflowWrap, &target));
     EXPECT_LE(LargestError(source, target, {kBilinear, kOverflowWrap, true}), 1);
-}
-
-TEST(Resample, AveragingKeepsTheMeanBrightness) {
-    const auto mean = [](const IsImage& image) {
-        double sum = 0;
-        for (uint32_t i = 0; i < image.Width() * image.Height(); ++i)
-            sum += image.GetPixelColor(i % image.Width(), i / image.Width()).rgbGreen;
-        return sum / image.Width() / image.Height();
-    };
-    IsImage source = MakeImage(401, 299), target;
-    const int32_t sizes[][2] = {{400, 298}, {100, 75}, {67, 250}, {31, 299}, {13, 7}};
-    for (const auto& [width, height] : sizes) {
-        ASSERT_TRUE(source.Resample(width, height, kLanczos, kOverflowWhite, &target));
-        // What rounding leaves of n pixels, at four sigma.
-        EXPECT_NEAR(mean(target), mean(source), 4 * 0.29 / std::sqrt(width * height) + 0.001);
-    }
 }
 
 TEST(Resample, BeyondTheEdgesLiesWhatTheOverflowMethodSays) {
@@ -227,16 +202,15 @@ TEST(Resample, IndexedPicturesAreFilteredByTheirColors) {
         colors.CreateImage(60, 50, 24);
         for (uint32_t i = 0; i < 60 * 50; ++i)
             colors.SetPixelColor(i % 60, i / 60, indexed.GetPixelColor(i % 60, i / 60));
-        const int32_t sizes[][2] = {{171, 133}, {23, 19}};
-        for (const auto& [width, height] : sizes) {
+        for (const int32_t width : {171, 23}) {
             IsImage fromIndexed, fromColors;
-            ASSERT_TRUE(indexed.Resample(width, height, kLanczos, kOverflowWrap, &fromIndexed));
-            ASSERT_TRUE(colors.Resample(width, height, kLanczos, kOverflowWrap, &fromColors));
+            ASSERT_TRUE(indexed.Resample(width, 40, kLanczos, kOverflowWrap, &fromIndexed));
+            ASSERT_TRUE(colors.Resample(width, 40, kLanczos, kOverflowWrap, &fromColors));
             EXPECT_EQ(fromIndexed.BitCount(), bits);
-            for (uint32_t y = 0; y < fromColors.Height(); ++y) {
-                for (uint32_t x = 0; x < fromColors.Width(); ++x)
-                    ASSERT_EQ(fromIndexed.GetPixelIndex(x, y),
-                              indexed.GetNearestIndex(fromColors.GetPixelColor(x, y)));
+            for (uint32_t i = 0; i < fromColors.Width() * 40; ++i) {
+                const uint32_t x = i / 40, y = i % 40;
+                ASSERT_EQ(fromIndexed.GetPixelIndex(x, y),
+                          indexed.GetNearestIndex(fromColors.GetPixelColor(x, y)));
             }
         }
     }
