@@ -232,45 +232,42 @@ TEST(JpegOptions, ShortPalettesArePalettesLikeAnyOther) {
 }
 
 TEST(JpegLimits, RefusalsNameTheLimit) {
-    const LimitsGuard guard;
     const auto scans = [](int more) {
         return JpegFile(With(kPlain, [more](Picture& p) { p.scansMore = more; }));
     };
-    const auto check = [](const char* limit, const Bytes& accepted, const Bytes& refused) {
-        IsImage image;
-        EXPECT_TRUE(Decode(accepted, image)) << image.LastErrorText();
-        EXPECT_FALSE(Decode(refused, image)) << limit;
-        EXPECT_NE(strstr(image.LastErrorText(), limit), nullptr) << image.LastErrorText();
+    const auto claiming = [](const Bytes& file, uint16_t side) {
+        return WithFrameSize(file, side, side);
     };
-    LimitsGuard::Set(&DecodeLimits::maxPixels, 256);
-    check("maxPixels", kFile, JpegFile(With(kPlain, [](Picture& p) { p.width = 17; })));
-    LimitsGuard::Set(&DecodeLimits::maxBlockBytes, 40 + 768);
-    check("maxBlockBytes", kFile, JpegFile(With(kPlain, [](Picture& p) { p.height = 17; })));
-    LimitsGuard::Set(&DecodeLimits::maxJpegScans, 5);
-    check("maxJpegScans", scans(4), scans(5));
+    const DecodeLimits whole;
+    const DecodeLimits fiveScans = With(whole, [](auto& limits) { limits.maxJpegScans = 5; });
     // Coefficients: four blocks of 128 bytes in each of three components may be twice the limit.
     // Scaled down, the picture itself is far from it.
-    for (const uint64_t bytes : {768u, 767u}) {
-        LimitsGuard::Set(&DecodeLimits::maxBlockBytes, bytes);
+    const DecodeLimits just = With(whole, [](auto& limits) { limits.maxBlockBytes = 768; });
+    const DecodeLimits tooFew = With(whole, [](auto& limits) { limits.maxBlockBytes = 767; });
+    const struct {
+        DecodeLimits limits;
+        uint8_t scale;
+        Bytes file;
+        const char* error;
+    } cases[] = {{fiveScans, 1, scans(4), ""},
+                 {fiveScans, 1, scans(5), "maxJpegScans"},
+                 {just, 8, kProgressive, ""},
+                 {tooFew, 8, kProgressive, "maxBlockBytes"},
+                 {tooFew, 8, kFile, ""}, // needs no such memory
+                 {whole, 1, claiming(kProgressive, 65500), "maxBlockBytes"},
+                 {whole, 1, claiming(kFile, 23000), "maxPixels"},
+                 {whole, 1, claiming(kFile, 65535), "65500"},
+                 {whole, 1, claiming(kFile, 0), "Empty JPEG image"},
+                 {whole, 1, claiming(kProgressive, 20000), "JPEG data end long before"}};
+    const LimitsGuard guard;
+    for (const auto& c : cases) {
+        SetDecodeLimits(c.limits);
         IsImage image;
-        image.SetJpegScale(8);
-        EXPECT_EQ(Decode(kProgressive, image), bytes == 768);
-        EXPECT_EQ(strstr(image.LastErrorText(), "maxBlockBytes") != nullptr, bytes != 768);
-        EXPECT_TRUE(Decode(kFile, image)) << "needs no such memory";
+        image.SetJpegScale(c.scale);
+        EXPECT_EQ(Decode(c.file, image), *c.error == '\0');
+        EXPECT_NE(strstr(image.LastErrorText(), c.error), nullptr) << image.LastErrorText();
     }
     SetDecodeLimits({});
-    const struct {
-        Bytes file;
-        uint16_t side;
-        const char* error;
-    } cases[] = {{kProgressive, 65500, "maxBlockBytes"},
-                 {kFile, 65500, "2 GiB"},
-                 {kFile, 23000, "maxPixels"},
-                 {kFile, 65535, "65500"},
-                 {kFile, 0, "Empty JPEG image"},
-                 {kProgressive, 20000, "JPEG data end long before the picture does"}};
-    for (const auto& c : cases)
-        check(c.error, c.file, WithFrameSize(c.file, c.side, c.side));
     IsImage image;
     ASSERT_TRUE(Decode(WithFrameSize(kFile, 16000, 16000), image));
     EXPECT_NE(image.GetPixelColor(0, 15999).rgbBlue, 0);
