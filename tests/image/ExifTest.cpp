@@ -94,11 +94,11 @@ TEST_P(ExifOrders, ValuesOfEveryFormatAreConverted) {
     const ExifBuilder b(GetParam());
     ExifReader reader;
     reader.SetMotorolaOrder(GetParam());
-    const float single = 1.5f;
-    const double twice = -2.25;
-    Bytes machineFloat(4), machineDouble(8);
-    memcpy(machineFloat.data(), &single, 4);
-    memcpy(machineDouble.data(), &twice, 8);
+    const auto inMachineOrder = [](auto number) {
+        Bytes bytes(sizeof(number));
+        memcpy(bytes.data(), &number, sizeof(number));
+        return bytes;
+    };
     // clang-format off
     const struct {
         int32_t format;
@@ -112,7 +112,7 @@ TEST_P(ExifOrders, ValuesOfEveryFormatAreConverted) {
         {kRational, b.Rational(0, -7, 2).value, -3.5}, // deliberately signed
         {kRational, b.Rational(0, 7, 0).value, 0},
         {kSignedRational, b.Rational(0, INT32_MIN, -1).value, 2147483648.0},
-        {kFloat, machineFloat, 1.5}, {kDouble, machineDouble, -2.25}};
+        {kFloat, inMachineOrder(1.5f), 1.5}, {kDouble, inMachineOrder(-2.25), -2.25}};
     // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(reader.ConvertAnyFormat(c.value.data(), c.format), c.number) << c.format;
