@@ -6,6 +6,7 @@
 #include "automation/RealInput.h"
 #include "automation/Steady.h"
 #include "automation/SystemColors.h"
+#include "menus/MenuState.h"
 #include "tests/menus/MenuTesting.h"
 #include "tests/support/DialogTemplate.h"
 #include "tests/support/GdiLedger.h"
@@ -147,6 +148,62 @@ TEST(MenuUse, AWindowMayGoWhileItsMenuIsOpen) {
     }
 }
 
+/// A skinned window of any base, on the stack.
+template <class Base>
+class Skinned : public CSkinnedMenus<Base> {
+public:
+    ~Skinned() override { this->DestroyWindow(); }
+    void PostNcDestroy() override {}
+
+    std::function<void()> m_onPopup; ///< called when a popup is about to open
+    std::vector<UINT> m_commands;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_INITMENUPOPUP && m_onPopup)
+            m_onPopup();
+        if (message == WM_COMMAND)
+            m_commands.push_back(LOWORD(wParam));
+        return CSkinnedMenus<Base>::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(MenuUse, AMaximisedMdiChildHasTheSystemsMenuInASkinnedBar) {
+    Skinned<CMDIFrameWnd> frame;
+    const HMENU bar = ::CreateMenu();
+    const HMENU file = TestMenu({"&New"}).Release();
+    ::AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
+    frame.Create(nullptr, "MDI", WS_OVERLAPPEDWINDOW | WS_VISIBLE, {60, 60, 460, 360}, nullptr,
+                 nullptr, WS_EX_TOPMOST);
+    ::SetMenu(frame, bar);
+    auto* const child = new CMDIChildWnd; // deletes itself with its window
+    ASSERT_TRUE(child->Create(nullptr, "child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
+                              CFrameWnd::rectDefault, &frame));
+    ::SetForegroundWindow(frame);
+    const HMENU system = ::GetSystemMenu(*child, FALSE);
+    const auto isMaximised = [&] { return ::IsZoomed(child->m_hWnd) != FALSE; };
+    const auto choose = [&](UINT position, bool skinned, char key) {
+        frame.MDIMaximize(child);
+        PumpFor();
+        ASSERT_EQ(::GetSubMenu(bar, 0), system) << "it hangs in the bar";
+        EXPECT_TRUE(WhileMenusRun([&] {
+            Click(MiddleOf(frame, bar, position));
+            const HWND popup = WaitForPopup();
+            automation::WritePng(automation::CaptureScreen({0,0,500,400}), "/tmp/rev3-mdi.png");
+            EXPECT_NE(::GetPropA(popup, "XPWndProp_OldProc"), nullptr) << "its frame is flat";
+            const HMENU menu = ::GetSubMenu(bar, static_cast<int>(position));
+            EXPECT_EQ((::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0, skinned);
+            EXPECT_EQ(::IsRectEmpty(&tint::GetMenuState().openBarItem) == FALSE, skinned);
+            automation::TypeKey(static_cast<WORD>(key));
+            EXPECT_TRUE(WaitForNoPopup());
+        }));
+    };
+    choose(1, true, 'N');
+    EXPECT_TRUE(PumpUntil([&] { return frame.m_commands == std::vector<UINT>{kFirst}; }));
+    choose(0, false, 'R');
+    EXPECT_TRUE(PumpUntil([&] { return !isMaximised(); })) << "restored";
+}
+
 bool HasSkinnedBar(CWnd& window) {
     const HMENU bar = ::GetMenu(window.m_hWnd);
     return CMenuXP::IsMenuXPEnabled(&window) &&
@@ -158,13 +215,6 @@ HMENU NewBar() {
     ::AppendMenuA(bar, MF_STRING, 1, "&One");
     return bar;
 }
-
-/// A skinned window of any base, on the stack.
-template <class Base>
-class Skinned : public CSkinnedMenus<Base> {
-public:
-    void PostNcDestroy() override {}
-};
 
 TEST(MenuUse, BarsOfDialogsAndFramesAreSkinnedWhenTheyAreSet) {
     DialogTemplate dialogTemplate("Dialog", 120, 60, WS_POPUP | WS_VISIBLE | WS_CAPTION);
