@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+// MFC wants to be the one that includes <windows.h>.
+#include <afxwin.h>
+
 #include "gallery/tour/PictureTour.h"
 
 #include <cstdio>
 #include <filesystem>
-
-#include <afxres.h>
 
 #include "automation/RealInput.h"
 #include "automation/Steady.h"

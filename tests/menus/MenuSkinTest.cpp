@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The skin switch of a window's menus, and the rest of its menu bar.
+#include <afxwin.h>
 #include <gtest/gtest.h>
+
+#include "tests/menus/MenuTesting.h"
 
 #include "automation/RealInput.h"
 #include "draw/Skin.h"
-#include "tests/menus/MenuTesting.h"
 #include "tests/support/Pump.h"
 
 namespace {

@@ -36,31 +36,6 @@ COLORREF Tint(int index, int luminance, int saturation) {
     return AdjustColorLS(::GetSysColor(index), luminance, saturation);
 }
 
-class ImageList {
-public:
-    ImageList() : m_list(::ImageList_Create(16, 16, ILC_COLOR32 | ILC_MASK, 1, 0)) {
-        constexpr COLORREF clear = RGB(255, 0, 255);
-        CClientDC screen(nullptr);
-        CBitmap bitmap;
-        bitmap.CreateCompatibleBitmap(&screen, 16, 16);
-        CDC dc;
-        dc.CreateCompatibleDC(&screen);
-        CBitmap* const previous = dc.SelectObject(&bitmap);
-        dc.FillSolidRect(0, 0, 16, 16, clear);
-        dc.FillSolidRect(0, 0, 8, 16, kInk);
-        dc.SelectObject(previous);
-        ::ImageList_AddMasked(m_list, static_cast<HBITMAP>(bitmap.GetSafeHandle()), clear);
-    }
-    ~ImageList() { ::ImageList_Destroy(m_list); }
-    ImageList(const ImageList&) = delete;
-    ImageList& operator=(const ImageList&) = delete;
-
-    operator LPARAM() const { return reinterpret_cast<LPARAM>(m_list); }
-
-private:
-    HIMAGELIST m_list;
-};
-
 /// A frame window with a toolbar of class Bar, docked at the top.  Its window deletes it.
 template <class Bar>
 class ToolFrame : public CFrameWnd {
@@ -132,7 +107,6 @@ private:
         ASSERT_TRUE(m_bar->LoadToolBar(101));
         m_bar->SendMessage(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS); // as the skinned one
         m_bar->SetBorders(1, 3, 6, 4);
-        m_bar->SendMessage(TB_SETIMAGELIST, 0, m_images);
         for (int i = 0; i < kCount; ++i) {
             if (i == kSeparator)
                 continue;
@@ -140,15 +114,13 @@ private:
                                : i == kChecked  ? TBBS_CHECKBOX | TBBS_CHECKED
                                : i == kDisabled ? TBBS_DISABLED
                                                 : 0;
-            m_bar->SetButtonInfo(i, m_bar->GetItemID(i), style, 0);
+            m_bar->SetButtonStyle(i, style);
         }
         m_bar->EnableDocking(CBRS_ALIGN_ANY);
         EnableDocking(CBRS_ALIGN_ANY);
         DockControlBar(m_bar.get());
         m_bar->UpdateWindow();
     }
-
-    ImageList m_images;
 };
 
 using Frame = ToolFrame<CToolBarXP>;
@@ -252,8 +224,8 @@ testing::AssertionResult ComesToShow(Frame& frame, int index = kPlain, int look 
 class ToolBarXPColors : public testing::TestWithParam<const char*> {};
 
 TEST_P(ToolBarXPColors, FollowEveryState) {
-    const automation::SystemColorGuard scheme(automation::FindColorScheme(GetParam())->colors);
     Frame* const frame = Frame::Open();
+    const automation::SystemColorGuard scheme(automation::FindColorScheme(GetParam())->colors);
     EXPECT_TRUE(ComesToShow(*frame));
     for (const int index : {kPlain, kChecked, kSplit, kDisabled}) {
         frame->MoveMouseTo(frame->ButtonRect(index).CenterPoint());
