@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One item, painted into a canvas as the system would ask for it, against the rule's own picture.
+#include <afxwin.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -172,37 +173,6 @@ TEST(MenuItemPaint, BackgroundIsTheRules) {
             EXPECT_EQ(ours.Snapshot(), rule.Snapshot()) << scheme.name << ": " << c.name;
         }
     }
-}
-
-decltype(&::SystemParametersInfoA) g_realParameters;
-
-BOOL WINAPI PretendHighContrast(UINT action, UINT size, void* value, UINT flags) {
-    if (action != SPI_GETHIGHCONTRAST)
-        return g_realParameters(action, size, value, flags);
-    static_cast<HIGHCONTRASTA*>(value)->dwFlags = HCF_HIGHCONTRASTON;
-    return TRUE;
-}
-
-TEST(MenuItemPaint, HighContrastIsPlainSystemColours) {
-    ImportPatch patch;
-    g_realParameters = patch.Redirect("user32.dll", "SystemParametersInfoA", &PretendHighContrast);
-    const automation::SystemColorGuard dark(
-        automation::FindColorScheme("high-contrast-dark")->colors);
-    const TestMenu menu({"MMM"});
-    ::CheckMenuItem(menu, kId, MF_CHECKED);
-    CMenuXP::ConvertMenu(nullptr, menu, true, false);
-    const auto shows = [&](UINT state, int back, int text) {
-        const RowCanvas canvas;
-        canvas.Paint(menu, kPopup, state);
-        return canvas.At(kRow.right - 5, kTop + 3) == System(back) &&
-               canvas.At(kLeft + 3, kTop + 3) == System(back) &&
-               canvas.Count(System(text), {kLeft + 30, kTop, kRow.right, kRow.bottom}) > 20 &&
-               canvas.Count(System(text), {kLeft + 2, kTop + 2, kLeft + 19, kRow.bottom - 2}) > 5;
-    };
-    EXPECT_TRUE(shows(0, COLOR_MENU, COLOR_MENUTEXT));
-    EXPECT_TRUE(shows(ODS_SELECTED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT));
-    ::EnableMenuItem(menu, kId, kDisabled);
-    EXPECT_TRUE(shows(ODS_SELECTED, COLOR_MENU, COLOR_GRAYTEXT));
 }
 
 TEST(MenuItemPaint, LookIsReadOnceAndFollowsTheSystemWhereItSaysSo) {

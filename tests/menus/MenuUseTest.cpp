@@ -3,6 +3,8 @@
 #include <afxext.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "automation/RealInput.h"
 #include "automation/Steady.h"
 #include "automation/SystemColors.h"
@@ -87,12 +89,7 @@ TEST(MenuUse, ChangesShowWhileAMenuIsOpen) {
         ::CheckMenuItem(window.File(), kFirst + 1, MF_UNCHECKED);
         EXPECT_EQ(repaint(), before);
         {
-            const automation::SystemColorGuard dark(
-                automation::FindColorScheme("high-contrast-dark")->colors);
-            HIGHCONTRASTA contrast = {};
-            contrast.cbSize = sizeof contrast;
-            contrast.dwFlags = HCF_HIGHCONTRASTON;
-            ::SystemParametersInfoA(SPI_SETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+            const automation::SystemColorGuard warm(automation::FindColorScheme("warm")->colors);
             const automation::Picture now = repaint();
             EXPECT_EQ(now.At(0, 5), ::GetSysColor(COLOR_3DDKSHADOW)) << "the frame";
             EXPECT_EQ(now.At(5, 3), ::GetSysColor(COLOR_HIGHLIGHT)) << "the selected item's";
@@ -155,64 +152,22 @@ public:
     ~Skinned() override { this->DestroyWindow(); }
     void PostNcDestroy() override {}
 
-    std::function<void()> m_onPopup; ///< called when a popup is about to open
-    std::vector<UINT> m_commands;
+    std::function<void()> m_onPopup;  ///< called before a popup opens
+    std::vector<WPARAM> m_commands; ///< the application's and the system's
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_INITMENUPOPUP && m_onPopup)
             m_onPopup();
-        if (message == WM_COMMAND)
-            m_commands.push_back(LOWORD(wParam));
+        if (message == WM_COMMAND || message == WM_SYSCOMMAND)
+            m_commands.push_back(wParam);
         return CSkinnedMenus<Base>::WindowProc(message, wParam, lParam);
     }
 };
 
-TEST(MenuUse, AMaximisedMdiChildHasTheSystemsMenuInASkinnedBar) {
-    Skinned<CMDIFrameWnd> frame;
-    const HMENU bar = ::CreateMenu();
-    const HMENU file = TestMenu({"&New"}).Release();
-    ::AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
-    frame.Create(nullptr, "MDI", WS_OVERLAPPEDWINDOW | WS_VISIBLE, {60, 60, 460, 360}, nullptr,
-                 nullptr, WS_EX_TOPMOST);
-    ::SetMenu(frame, bar);
-    auto* const child = new CMDIChildWnd; // deletes itself with its window
-    ASSERT_TRUE(child->Create(nullptr, "child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
-                              CFrameWnd::rectDefault, &frame));
-    ::SetForegroundWindow(frame);
-    const HMENU system = ::GetSystemMenu(*child, FALSE);
-    const auto isMaximised = [&] { return ::IsZoomed(child->m_hWnd) != FALSE; };
-    const auto choose = [&](UINT position, bool skinned, char key) {
-        frame.MDIMaximize(child);
-        PumpFor();
-        ASSERT_EQ(::GetSubMenu(bar, 0), system) << "it hangs in the bar";
-        EXPECT_TRUE(WhileMenusRun([&] {
-            Click(MiddleOf(frame, bar, position));
-            const HWND popup = WaitForPopup();
-            automation::WritePng(automation::CaptureScreen({0,0,500,400}), "/tmp/rev3-mdi.png");
-            EXPECT_NE(::GetPropA(popup, "XPWndProp_OldProc"), nullptr) << "its frame is flat";
-            const HMENU menu = ::GetSubMenu(bar, static_cast<int>(position));
-            EXPECT_EQ((::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0, skinned);
-            EXPECT_EQ(::IsRectEmpty(&tint::GetMenuState().openBarItem) == FALSE, skinned);
-            automation::TypeKey(static_cast<WORD>(key));
-            EXPECT_TRUE(WaitForNoPopup());
-        }));
-    };
-    choose(1, true, 'N');
-    EXPECT_TRUE(PumpUntil([&] { return frame.m_commands == std::vector<UINT>{kFirst}; }));
-    choose(0, false, 'R');
-    EXPECT_TRUE(PumpUntil([&] { return !isMaximised(); })) << "restored";
-}
-
-bool HasSkinnedBar(CWnd& window) {
-    const HMENU bar = ::GetMenu(window.m_hWnd);
-    return CMenuXP::IsMenuXPEnabled(&window) &&
-           (::GetMenuState(bar, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0;
-}
-
 HMENU NewBar() {
     const HMENU bar = ::CreateMenu();
-    ::AppendMenuA(bar, MF_STRING, 1, "&One");
+    ::AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(TestMenu({"&New"}).Release()), "&File");
     return bar;
 }
 
@@ -224,23 +179,70 @@ TEST(MenuUse, BarsOfDialogsAndFramesAreSkinnedWhenTheyAreSet) {
     frame.Create(nullptr, "frame");
     Skinned<CMDIFrameWnd> mdiFrame;
     mdiFrame.Create(nullptr, "MDI frame");
+    const auto hasSkinnedBar = [](CWnd& window) {
+        return (::GetMenuState(::GetMenu(window), 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0;
+    };
     for (CWnd* const window :
          {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&frame), static_cast<CWnd*>(&mdiFrame)}) {
-        ::SetMenu(window->m_hWnd, NewBar());
-        EXPECT_TRUE(HasSkinnedBar(*window));
+        ::SetMenu(*window, NewBar());
+        EXPECT_TRUE(hasSkinnedBar(*window));
     }
     CMenu other; // as an MDI child brings along
     other.Attach(NewBar());
     CMenu* const former = mdiFrame.MDISetMenu(&other, nullptr);
     mdiFrame.DrawMenuBar();
-    EXPECT_TRUE(HasSkinnedBar(mdiFrame));
+    EXPECT_TRUE(hasSkinnedBar(mdiFrame));
     mdiFrame.MDISetMenu(former, nullptr);
+}
 
-    const HWND gone = frame.m_hWnd;
-    for (CWnd* const window :
-         {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&frame), static_cast<CWnd*>(&mdiFrame)})
-        window->DestroyWindow();
+TEST(MenuUse, AMaximisedMdiChildHasTheSystemsMenuInASkinnedBar) {
+    Skinned<CMDIFrameWnd> frame;
+    frame.m_bAutoMenuEnable = FALSE;
+    frame.Create(nullptr, "MDI", WS_OVERLAPPEDWINDOW | WS_VISIBLE, {60, 60, 460, 360}, nullptr,
+                 nullptr, WS_EX_TOPMOST);
+    const HMENU bar = NewBar();
+    ::SetMenu(frame, bar);
+    auto* const child = new CMDIChildWnd; // deletes itself with its window
+    ASSERT_TRUE(child->Create(nullptr, "child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
+                              CFrameWnd::rectDefault, &frame));
+    ::SetForegroundWindow(frame);
+    frame.MDIMaximize(child);
+    PumpFor();
+    ASSERT_EQ(::GetSubMenu(bar, 0), ::GetSystemMenu(*child, FALSE)) << "it hangs in the bar";
+    RECT end = {};
+    ::GetMenuItemRect(frame, bar, 1, &end);
+    const automation::Picture gap =
+        automation::CaptureScreen({end.right, end.top, end.right + 99, end.bottom});
+    EXPECT_EQ(std::count(gap.pixels.begin(), gap.pixels.end(), ::GetSysColor(COLOR_BTNFACE)),
+              static_cast<int>(gap.pixels.size()))
+        << "between the items and the child's buttons";
+
+    for (const UINT position : {1U, 0U}) {
+        const bool skinned = position == 1;
+        EXPECT_TRUE(WhileMenusRun([&] {
+            Click(MiddleOf(frame, bar, position));
+            const HWND popup = WaitForPopup();
+            EXPECT_NE(::GetPropA(popup, "XPWndProp_OldProc"), nullptr) << "its frame is flat";
+            const HMENU menu = ::GetSubMenu(bar, static_cast<int>(position));
+            EXPECT_EQ((::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0, skinned);
+            EXPECT_EQ(::IsRectEmpty(&tint::GetMenuState().openBarItem) == FALSE, skinned);
+            automation::TypeKey(skinned ? 'N' : 'R');
+            EXPECT_TRUE(WaitForNoPopup());
+        }));
+        const WPARAM chosen = skinned ? WPARAM{kFirst} : WPARAM{SC_RESTORE};
+        EXPECT_TRUE(PumpUntil([&] { return frame.m_commands.back() == chosen; })) << chosen;
+    }
+}
+
+TEST(MenuUse, AWindowMayGoBeforeItsPopupOpens) {
+    Skinned<CFrameWnd> frame;
+    frame.Create(nullptr, "frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE);
+    const TestMenu menu({"&One"});
+    const HWND gone = frame;
+    frame.m_onPopup = [&] { frame.DestroyWindow(); };
+    ::SendMessageA(gone, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(HMENU{menu}), 0);
     EXPECT_EQ(::GetPropA(gone, "XPWndProp_MenuXP"), nullptr);
+    EXPECT_EQ(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW, 0U);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The popup-menu window: its frame, its shadow, and what becomes of its window procedure.
+#include <afxwin.h>
 #include <gtest/gtest.h>
 
 #include "automation/RealInput.h"
