@@ -132,43 +132,26 @@ TEST(PopupProcedure, LeavesAStrangerInTheChainAlone) {
     EXPECT_FALSE(IsSubclassed(popup));
 }
 
-// Ends the hook of its process, so it is run in one of its own by the test below.
-TEST(PopupHook, DISABLED_IsLostAfterTheLastUninstall) {
+/// Whether the hook ends as it should; it cannot be had again in this process.
+bool HookEndsWithTheLastUninstall() {
     const MenuWindow window({"&One"});
     const BarePopup popup;
     const LONG_PTR old = reinterpret_cast<LONG_PTR>(::GetPropA(popup, kOldProc));
-    ASSERT_NE(old, 0);
-    EXPECT_EQ(CMenuXP::InstallHook(), 3U) << "the environment's and the window's before it";
+    const bool counted = CMenuXP::InstallHook() == 3; // the environment's and the window's before it
     CMenuXP::UninstallHook();
     CMenuXP::UninstallHook();
-    EXPECT_TRUE(IsSubclassed(popup)) << "one install is left";
+    const bool kept = IsSubclassed(popup); // one install is left
     CMenuXP::UninstallHook();
-    EXPECT_EQ(ProcOf(popup), old);
-    EXPECT_FALSE(IsSubclassed(popup));
-    EXPECT_EQ(popup.Object(), nullptr);
+    const bool restored =
+        !IsSubclassed(popup) && ProcOf(popup) == old && popup.Object() == nullptr;
     CMenuXP::UninstallHook(); // without an install
-
-    EXPECT_EQ(CMenuXP::InstallHook(), 1U) << "only counted";
+    const bool onlyCounted = CMenuXP::InstallHook() == 1;
     const BarePopup later;
-    EXPECT_FALSE(IsSubclassed(later));
+    return counted && kept && restored && onlyCounted && !IsSubclassed(later);
 }
 
-TEST(PopupHook, EndsWithTheLastUninstall) {
-    char program[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, program, MAX_PATH);
-    std::string command = '"' + std::string(program) +
-                          "\" --gtest_also_run_disabled_tests --gtest_filter=*DISABLED_IsLost*";
-    STARTUPINFOA startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    ASSERT_TRUE(::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                 nullptr, &startup, &process));
-    EXPECT_EQ(::WaitForSingleObject(process.hProcess, 30000), DWORD{WAIT_OBJECT_0});
-    DWORD exitCode = 1;
-    ::GetExitCodeProcess(process.hProcess, &exitCode);
-    EXPECT_EQ(exitCode, 0U);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+TEST(PopupHookDeathTest, EndsWithTheLastUninstall) {
+    EXPECT_EXIT(::_exit(HookEndsWithTheLastUninstall() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 // --- Size and system ----------------------------------------------------------------------------
