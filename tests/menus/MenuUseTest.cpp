@@ -30,48 +30,52 @@ void Click(POINT point) {
     automation::ReleaseMouse();
 }
 
+constexpr WORD kClickFirst = VK_LBUTTON; ///< of the open popup
+constexpr WORD kClickLast = VK_RBUTTON;
+
+/// Opens a menu by Alt and the first key (or by a click on the bar's first item), then types the rest.
+void TypeInto(const MenuWindow& window, const std::vector<WORD>& keys) {
+    if (keys[0] == kClickFirst)
+        Click(MiddleOf(window, window.Bar(), 0));
+    else
+        automation::TypeKey(keys[0], VK_MENU);
+    EXPECT_NE(WaitForPopup(), nullptr);
+    for (std::size_t i = 1; i < keys.size(); ++i) {
+        const HMENU file = window.File();
+        if (keys[i] == kClickFirst || keys[i] == kClickLast)
+            Click(MiddleOf(window, file, keys[i] == kClickFirst ? 0 : ::GetMenuItemCount(file) - 1));
+        else
+            automation::TypeKey(keys[i]);
+        ::Sleep(50);
+    }
+    EXPECT_TRUE(WaitForNoPopup());
+}
+
 TEST(MenuUse, KeysAndMouseChooseAsEver) {
-    MenuWindow window({"&New\tCtrl+N", "Save && E&xit", "-", "&Disabled"});
-    ::EnableMenuItem(window.File(), kFirst + 3, MF_GRAYED | MF_DISABLED);
-    std::vector<UINT> expected;
-    const auto run = [&](UINT chosen, const std::function<void()>& script) {
-        if (chosen != 0)
-            expected.push_back(chosen);
-        EXPECT_TRUE(WhileMenusRun([&] {
-            script();
-            EXPECT_TRUE(WaitForNoPopup());
-        }));
-        EXPECT_TRUE(PumpUntil([&] { return window.m_commands == expected; })) << chosen;
+    std::vector<std::string> tall(500, "Item"); // taller than the screen
+    tall.back() = "&Last";
+    struct Case {
+        std::vector<WORD> keys;
+        UINT chosen; ///< 0: nothing
+        std::vector<std::string> lines = {"&New\tCtrl+N", "Save && E&xit", "-", "&Disabled"};
     };
-    const auto open = [](char key) {
-        automation::TypeKey(static_cast<WORD>(key), VK_MENU);
-        EXPECT_NE(WaitForPopup(), nullptr);
-    };
-    run(kFirst, [&] { open('F'), automation::TypeKey('N'); });
-    run(kFirst + 1, [&] { open('F'), automation::TypeKey('X'); });
-    run(kFirst + 1, [&] {
-        open('F');
-        automation::TypeKey(VK_DOWN);
-        automation::TypeKey(VK_RETURN);
-    });
-    run(900, [&] {
-        open('F');
-        automation::TypeKey(VK_RIGHT);
-        ::Sleep(100);
-        automation::TypeKey(VK_RETURN);
-    });
-    run(900, [&] { open('H'), automation::TypeKey('A'); });
-    run(kFirst, [&] {
-        Click(MiddleOf(window.m_hWnd, window.Bar(), 0));
-        WaitForPopup();
-        Click(MiddleOf(window.m_hWnd, window.File(), 0));
-    });
-    run(0, [&] {
-        open('F');
-        Click(MiddleOf(window.m_hWnd, window.File(), 3)); // disabled: nothing happens
-        automation::TypeKey(VK_ESCAPE);
-        automation::TypeKey(VK_ESCAPE);
-    });
+    for (const Case& c : {
+             Case{{'F', 'N'}, kFirst},
+             Case{{'F', 'X'}, kFirst + 1},
+             Case{{'F', VK_DOWN, VK_RETURN}, kFirst + 1},
+             Case{{'F', VK_RIGHT, VK_RETURN}, 900},
+             Case{{'H', 'A'}, 900},
+             Case{{kClickFirst, kClickFirst}, kFirst},
+             Case{{'F', kClickLast, VK_ESCAPE, VK_ESCAPE}, 0},
+             Case{{'F', 'L'}, kFirst + 499, tall},
+             Case{{'F', VK_UP, VK_UP, VK_RETURN}, kFirst + 498, tall},
+         }) {
+        MenuWindow window(c.lines);
+        ::EnableMenuItem(window.File(), kFirst + 3, MF_GRAYED | MF_DISABLED);
+        EXPECT_TRUE(WhileMenusRun([&] { TypeInto(window, c.keys); }));
+        PumpFor(50);
+        EXPECT_EQ(window.m_commands, c.chosen == 0 ? std::vector<UINT>() : std::vector{c.chosen});
+    }
 }
 
 TEST(MenuUse, ChangesShowWhileAMenuIsOpen) {
@@ -219,6 +223,7 @@ TEST(MenuUse, AMaximisedMdiChildHasTheSystemsMenuInASkinnedBar) {
 
     for (const UINT position : {1U, 0U}) {
         const bool skinned = position == 1;
+        tint::GetMenuState().openBarItem = {1, 2, 3, 4};
         EXPECT_TRUE(WhileMenusRun([&] {
             Click(MiddleOf(frame, bar, position));
             const HWND popup = WaitForPopup();
