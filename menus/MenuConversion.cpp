@@ -5,6 +5,7 @@
 #include "draw/Selectors.h"
 #include "menus/CommandImages.h"
 #include "menus/Contained.h"
+#include "menus/MenuBar.h"
 #include "menus/MenuItemData.h"
 #include "menus/MenuItemXP.h"
 #include "menus/MenuRecords.h"
@@ -172,9 +173,8 @@ bool IsSystemMenuOfActiveChild(CWnd* window, HMENU menu) {
 void CMenuXP::UpdateMenuBar(CWnd* window) {
     if (!IsMenuXPEnabled(window))
         return;
-    const HMENU menu = ::GetMenu(window->m_hWnd); // a child window answers its identifier
-    if (::IsMenu(menu))
-        ConvertMenu(window, menu, true, true);
+    if (const HMENU bar = tint::MenuBarOf(window->m_hWnd))
+        ConvertMenu(window, bar, true, true);
 }
 
 void CMenuXP::ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar) {

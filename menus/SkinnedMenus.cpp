@@ -2,33 +2,22 @@
 #include "menus/SkinnedMenus.h"
 
 #include "draw/Skin.h"
+#include "menus/MenuBar.h"
 #include "menus/MenuState.h"
 
 namespace tint {
 namespace {
 
-/// The menu bar; null for a window that has none.
-HMENU MenuBarOf(HWND window) {
-    const HMENU menu = ::GetMenu(window); // a child window answers its identifier
-    return ::IsMenu(menu) ? menu : nullptr;
+/// The user wants the system's colours as they are, which tints and gradients are not.
+bool IsHighContrast() {
+    HIGHCONTRASTA contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
-/// Fills what the items leave of the bar with their colour; the system may have another one for it.
-void FillRestOfBar(HWND window) {
-    const HMENU menu = MenuBarOf(window);
-    MENUBARINFO bar = {};
-    bar.cbSize = sizeof bar;
-    RECT last = {};
-    RECT frame = {};
-    if (menu == nullptr || !::GetMenuBarInfo(window, OBJID_MENU, 0, &bar) ||
-        !::GetMenuItemRect(window, menu, ::GetMenuItemCount(menu) - 1, &last) ||
-        !::GetWindowRect(window, &frame))
-        return;
-    RECT rest = {last.right, last.top, bar.rcBar.right, last.bottom};
-    ::OffsetRect(&rest, -frame.left, -frame.top);
-    const HDC dc = ::GetWindowDC(window);
-    ::FillRect(dc, &rest, ::GetSysColorBrush(COLOR_BTNFACE));
-    ::ReleaseDC(window, dc);
+bool IsSkinWanted(HWND window) {
+    return IsSkinEnabled(window) && !IsHighContrast();
 }
 
 } // namespace
@@ -38,9 +27,13 @@ MenuSkin::~MenuSkin() {
 }
 
 void MenuSkin::Install(CWnd& window) {
+    if (m_window == nullptr)
+        CMenuXP::InstallHook();
+    else
+        CMenuXP::EnableMenuXP(CWnd::FromHandle(m_window), false); // the object was detached from it
     m_window = window.m_hWnd;
-    CMenuXP::InstallHook();
-    CMenuXP::EnableMenuXP(&window, IsSkinEnabled(m_window));
+    m_skinned = IsSkinWanted(m_window);
+    CMenuXP::EnableMenuXP(&window, m_skinned);
 }
 
 void MenuSkin::Uninstall() {
@@ -51,13 +44,16 @@ void MenuSkin::Uninstall() {
     m_window = nullptr;
 }
 
-void MenuSkin::SwitchSkin(CWnd& window, bool enabled) {
-    CMenuXP::EnableMenuXP(&window, enabled);
-    if (enabled)
+void MenuSkin::FollowSwitches(CWnd& window) {
+    if (m_skinned == IsSkinWanted(m_window))
+        return;
+    m_skinned = !m_skinned;
+    CMenuXP::EnableMenuXP(&window, m_skinned);
+    if (m_skinned)
         CMenuXP::UpdateMenuBar(&window);
-    else if (const HMENU bar = MenuBarOf(window.m_hWnd))
-        CMenuXP::RestoreMenu(bar);
-    ::DrawMenuBar(window.m_hWnd);
+    else
+        CMenuXP::RestoreMenu(MenuBarOf(m_window));
+    ::DrawMenuBar(m_window);
 }
 
 bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam,
@@ -66,10 +62,11 @@ bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lPara
         Uninstall();
         return false;
     }
-    if (m_window == nullptr)
+    if (m_window != window.m_hWnd)
         Install(window);
-    if (message == skinSwitchMessage && message != 0)
-        SwitchSkin(window, wParam != FALSE);
+    if (message == WM_INITMENU || message == WM_SETTINGCHANGE ||
+        (message == skinSwitchMessage && message != 0))
+        FollowSwitches(window);
 
     switch (message) {
     case WM_NCCALCSIZE: // sent before the bar is measured, also when it has changed
@@ -88,7 +85,7 @@ bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lPara
     case WM_MENUCHAR:
         result =
             CMenuXP::OnMenuChar(reinterpret_cast<HMENU>(lParam), LOWORD(wParam), HIWORD(wParam));
-        return result != 0;
+        return m_skinned && result != 0;
     case WM_EXITMENULOOP:
         ::SetRectEmpty(&GetMenuState().openBarItem);
         return false;
@@ -110,8 +107,8 @@ void MenuSkin::AfterMessage(HWND window, UINT message, WPARAM wParam, LPARAM) {
     }
     case WM_NCPAINT:
     case WM_NCACTIVATE:
-        if (IsSkinEnabled(window))
-            FillRestOfBar(window);
+        if (CMenuXP::IsMenuXPEnabled(CWnd::FromHandlePermanent(window)))
+            FillRestOfMenuBar(window);
         break;
     default:
         break;

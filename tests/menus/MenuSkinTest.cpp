@@ -21,8 +21,19 @@ bool IsOwnerDrawn(HMENU menu) {
 
 TEST(MenuSkin, GoesAndComesWithItsSwitch) {
     MenuWindow window({"&One", "&Two"});
-    for (const bool enabled : {true, false, true}) {
-        tint::EnableSkin(window, enabled);
+    struct Switches {
+        bool skin;
+        bool contrast; ///< the user asks for high contrast
+    };
+    for (const auto& [skin, contrast] :
+         {Switches{true, false}, {false, false}, {true, false}, {true, true}, {true, false}}) {
+        const bool enabled = skin && !contrast;
+        HIGHCONTRASTA parameters = {};
+        parameters.cbSize = sizeof parameters;
+        parameters.dwFlags = contrast ? HCF_HIGHCONTRASTON : 0;
+        ::SystemParametersInfoA(SPI_SETHIGHCONTRAST, sizeof parameters, &parameters, 0);
+        window.SendMessage(WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST); // as the system does
+        tint::EnableSkin(window, skin);
         EXPECT_EQ(IsOwnerDrawn(window.Bar()), enabled);
         EXPECT_TRUE(WhileMenusRun([&] {
             automation::TypeKey('F', VK_MENU);
@@ -37,7 +48,7 @@ TEST(MenuSkin, GoesAndComesWithItsSwitch) {
         EXPECT_STREQ(text, "&Two");
     }
     PumpFor();
-    EXPECT_EQ(window.m_commands.size(), 3U);
+    EXPECT_EQ(window.m_commands.size(), 5U);
 }
 
 TEST(MenuSkin, TheBarHasTheColorOfItsItemsToItsEnd) {

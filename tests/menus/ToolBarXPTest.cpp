@@ -25,7 +25,6 @@ namespace {
 // The buttons of the resource, by index and command: plain, checked, a separator, split, disabled.
 enum Index { kPlain, kChecked, kSeparator, kSplit, kDisabled, kCount };
 constexpr UINT kSplitCommand = 203;
-constexpr UINT kDisabledCommand = 204;
 constexpr UINT kControl = 300;
 constexpr UINT kOpenMenu = WM_APP;
 constexpr UINT kEndToolBar = WM_APP + 1;
@@ -105,8 +104,10 @@ private:
         m_bAutoMenuEnable = FALSE;
         m_bar->CreateEx(this, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_SIZE_DYNAMIC);
         ASSERT_TRUE(m_bar->LoadToolBar(101));
-        m_bar->SendMessage(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS); // as the skinned one
-        m_bar->SetBorders(1, 3, 6, 4);
+        if constexpr (!std::is_same_v<Bar, CToolBarXP>) { // the skinned one does it by itself
+            m_bar->SendMessage(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
+            m_bar->SetBorders(1, 3, 6, 4);
+        }
         for (int i = 0; i < kCount; ++i) {
             if (i == kSeparator)
                 continue;
@@ -211,21 +212,12 @@ testing::AssertionResult ComesToShow(Frame& frame, int index = kPlain, int look 
     };
     if (PumpUntil([&] { return draw(), (shown = frame.Show()) == expected; }))
         return testing::AssertionSuccess();
-    for (int y = 0; y < shown.height && y < expected.height; ++y)
-        for (int x = 0; x < shown.width && x < expected.width; ++x)
-            if (shown.At(x, y) != expected.At(x, y))
-                return testing::AssertionFailure()
-                       << "at " << x << ", " << y << std::hex << ": " << shown.At(x, y)
-                       << " instead of " << expected.At(x, y) << "; the button begins at "
-                       << std::dec << frame.ButtonRect(index).left;
-    return testing::AssertionFailure() << "of another size";
+    return testing::AssertionFailure() << FirstDifference(shown, expected) << "; the button is at "
+                                       << frame.ButtonRect(index).left;
 }
 
-class ToolBarXPColors : public testing::TestWithParam<const char*> {};
-
-TEST_P(ToolBarXPColors, FollowEveryState) {
-    Frame* const frame = Frame::Open();
-    const automation::SystemColorGuard scheme(automation::FindColorScheme(GetParam())->colors);
+void ShowEveryState(Frame* frame) {
+    frame->m_commands.clear();
     EXPECT_TRUE(ComesToShow(*frame));
     for (const int index : {kPlain, kChecked, kSplit, kDisabled}) {
         frame->MoveMouseTo(frame->ButtonRect(index).CenterPoint());
@@ -254,9 +246,9 @@ TEST_P(ToolBarXPColors, FollowEveryState) {
         frame->ToolBar().ClientToScreen(below);
         EXPECT_EQ(place.left, below.left);
         EXPECT_NEAR(place.top, below.bottom, 1);
+        const Picture shown = frame->Show();
         Expected expected(*frame);
         expected.Button(split, kSplit, kOpen);
-        const Picture shown = frame->Show();
         for (LONG y = split.top; y < split.bottom - 1; ++y) // the menu's frame may cover the rest
             for (LONG x = split.left; x < split.right; ++x)
                 ASSERT_EQ(shown.At(x, y), expected.At(x, y)) << x << ", " << y;
@@ -271,16 +263,18 @@ TEST_P(ToolBarXPColors, FollowEveryState) {
 
     frame->DockControlBar(&frame->ToolBar(), AFX_IDW_DOCKBAR_LEFT);
     EXPECT_TRUE(ComesToShow(*frame, kPlain, kResting, true)) << "a column";
-    frame->DestroyWindow();
+    frame->DockControlBar(&frame->ToolBar(), AFX_IDW_DOCKBAR_TOP);
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemes, ToolBarXPColors,
-                         testing::Values("default", "high-contrast-dark", "warm"),
-                         [](const auto& info) {
-                             std::string name = info.param;
-                             name.erase(std::remove(name.begin(), name.end(), '-'), name.end());
-                             return name;
-                         });
+TEST(ToolBarXP, ShowsEveryStateInEveryScheme) {
+    Frame* const frame = Frame::Open();
+    for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
+        SCOPED_TRACE(scheme.name);
+        const automation::SystemColorGuard colors(scheme.colors);
+        ShowEveryState(frame);
+    }
+    frame->DestroyWindow();
+}
 
 TEST(ToolBarXP, WithoutItsSkinItIsTheSystemsOwn) {
     Picture system;
@@ -301,20 +295,12 @@ TEST(ToolBarXP, WithoutItsSkinItIsTheSystemsOwn) {
 
 // --- Controls among the buttons -----------------------------------------------------------------
 
-TEST(ToolBarXP, LoadsWithItsBordersAndSplitButtons) {
-    Frame* const frame = Frame::Open();
-    frame->ToolBar().SetBorders(0, 0, 0, 0);
-    frame->ToolBar().SendMessage(TB_SETEXTENDEDSTYLE, 0, 0);
-    EXPECT_TRUE(frame->ToolBar().LoadToolBar(101));
-    EXPECT_EQ(frame->ToolBar().GetBorders(), CRect(1, 3, 6, 4));
-    EXPECT_EQ(frame->ToolBar().SendMessage(TB_GETEXTENDEDSTYLE), TBSTYLE_EX_DRAWDDARROWS);
-    EXPECT_FALSE(frame->ToolBar().LoadToolBar(999));
-    frame->DestroyWindow();
-}
-
-TEST(ToolBarXP, HidesControlsWhereItStands) {
+TEST(ToolBarXP, LoadsItsBordersAndHidesControlsWhereItStands) {
     Frame* const frame = Frame::Open();
     CToolBarXP& bar = frame->ToolBar();
+    EXPECT_FALSE(bar.LoadToolBar(999));
+    EXPECT_EQ(bar.GetBorders(), CRect(1, 3, 6, 4));
+    EXPECT_EQ(bar.SendMessage(TB_GETEXTENDEDSTYLE), TBSTYLE_EX_DRAWDDARROWS);
     CEdit edit;
     edit.Create(WS_CHILD, CRect(0, 0, 70, 20), &bar, kControl);
     for (const int index : {1000, -1}) {
@@ -352,18 +338,15 @@ TEST(ToolBarXP, HidesControlsWhereItStands) {
 
 TEST(ToolBarXP, TellsWhetherTheArrowWasHandled) {
     Frame* const frame = Frame::Open();
-    NMTOOLBARA notification = {};
-    notification.hdr = {frame->ToolBar(), UINT_PTR{AFX_IDW_TOOLBAR}, TBN_DROPDOWN};
-    notification.iItem = 777;
-    const auto notify = [&] {
-        return frame->SendMessage(WM_NOTIFY, AFX_IDW_TOOLBAR,
-                                  reinterpret_cast<LPARAM>(&notification));
-    };
-    EXPECT_EQ(notify(), TBDDRET_TREATPRESSED);
-    EXPECT_EQ(frame->m_commands.back(), 0x10000u - 777);
     ::DestroyMenu(frame->m_menu.Release()); // nothing opens
-    notification.iItem = kSplitCommand;
-    EXPECT_EQ(notify(), TBDDRET_DEFAULT);
+    for (const int command : {777, static_cast<int>(kSplitCommand), INT_MIN}) {
+        NMTOOLBARA notification = {};
+        notification.hdr = {frame->ToolBar(), UINT_PTR{AFX_IDW_TOOLBAR}, TBN_DROPDOWN};
+        notification.iItem = command;
+        EXPECT_EQ(frame->SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification)),
+                  command == int{kSplitCommand} ? TBDDRET_DEFAULT : TBDDRET_TREATPRESSED);
+        EXPECT_EQ(frame->m_commands.back(), (0x10000U - command) & 0xFFFF);
+    }
     frame->DestroyWindow();
 }
 
