@@ -127,7 +127,8 @@ TEST(CadDebugLog, GoesToTheSharedDocumentsWhereTheProgramCannotWrite) {
     ImportPatch patch;
     patch.Redirect("kernel32.dll", "GetPrivateProfileIntA", &SwitchedOn);
     const fs::path tarvex = places.m_root / "documents" / "Tarvex";
-    const std::string program = "Z:\\proc\\app.exe"; // a file system of the kernel's own, under Wine
+    const std::string program =
+        "Z:\\proc\\app.exe"; // a file system of the kernel's own, under Wine
     const std::string documents = Places::g_documents;
     const std::string name = "\\TvCaddebug.log";
     const std::string longPath = "Q:\\" + std::string(250, 'd');
