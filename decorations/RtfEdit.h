@@ -20,10 +20,12 @@
 ///         }
 ///     };
 ///
-/// The template decides about ES_MULTILINE, ES_READONLY and the scroll bars.
+/// The template decides about ES_MULTILINE, ES_READONLY and the scroll bars.  Windows cuts a document at
+/// the control's limit: LimitText first, where one may be longer than 32,767 characters.
 ///
-/// The parser is the system's, and not every system's survives a document made to break it: show files
-/// that the program came with or trusts.
+/// The parser is the system's, and not every system's survives a document made to break it; an overlong
+/// font name is enough for Wine's.  No check is made here, which would have to know each parser's faults:
+/// show files that the program came with or trusts.
 class CRtfEdit : public CRichEditCtrl {
 public:
     /// Replaces what the control holds by the RTF document in a file; an empty file empties it.

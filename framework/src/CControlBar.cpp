@@ -87,7 +87,7 @@ void CControlBar::OnDestroy() {
         afx::MiniDockFrame* const mini = afx::MiniDockFrame::Of(*this);
         m_pDockBar->Remove(this);
         m_pDockBar = nullptr;
-        if (mini != nullptr) {
+        if (mini != nullptr && mini->Dock().FirstBar() == nullptr) {
             // Later: the frame may be what is being destroyed.
             mini->PostMessage(WM_CLOSE);
         }

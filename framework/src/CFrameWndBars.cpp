@@ -6,6 +6,7 @@
 
 #include "BarAccess.h"
 #include "MiniDockFrame.h"
+#include "ThreadState.h"
 #include "afxpriv.h"
 
 CControlBar* CFrameWnd::GetControlBar(UINT nID) {
@@ -27,10 +28,10 @@ void CFrameWnd::RecalcLayout(BOOL) {
     }
     m_layingOut = true;
     m_layoutPending = false;
-    const HWND window = m_hWnd;
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
     // What is laid out may have ended the frame.
-    if (FromHandlePermanent(window) == this) {
+    const std::vector<CFrameWnd*>& frames = afx::CurrentThread().frames;
+    if (std::find(frames.begin(), frames.end(), this) != frames.end()) {
         m_layingOut = false;
     }
 }

@@ -153,16 +153,18 @@ LRESULT CMDIChildWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
 }
 
 BOOL CMDIChildWnd::PreTranslateMessage(MSG* pMsg) {
-    const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
-    if (isKey && m_givenAccelerators != nullptr) {
-        // The commands are the frame's: it passes them on to the active child.
-        const CMDIFrameWnd* const frame = GetMDIFrame();
-        if (frame != nullptr &&
-            ::TranslateAccelerator(frame->m_hWnd, m_givenAccelerators, pMsg) != 0) {
-            return TRUE;
-        }
+    // Not the frame window's way: a child has no menu that could disable a command.
+    if (CWnd::PreTranslateMessage(pMsg)) {
+        return TRUE;
     }
-    return CFrameWnd::PreTranslateMessage(pMsg);
+    const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
+    const HACCEL table = m_givenAccelerators != nullptr ? m_givenAccelerators : m_accelerators;
+    if (!isKey || table == nullptr) {
+        return FALSE;
+    }
+    // The commands are the frame's: it passes them on to the active child.
+    const CMDIFrameWnd* const frame = GetMDIFrame();
+    return frame != nullptr && ::TranslateAccelerator(frame->m_hWnd, table, pMsg) != 0;
 }
 
 int CMDIChildWnd::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message) {

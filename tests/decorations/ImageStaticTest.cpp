@@ -77,7 +77,7 @@ TEST(ImageStatic, FitsThePictureToTheControlAtEachPaint) {
     EXPECT_EQ(CountOf(dialog.Repaint(), ::GetSysColor(COLOR_BTNFACE)), 200 * 100) << "none yet";
     dialog.Load(TwoColors(400, 400));
     EXPECT_EQ(dialog.Held(), CSize(400, 400)) << "until the first paint";
-    for (const CSize size : {CSize(200, 100), CSize(80, 120)}) {
+    for (const CSize size : {CSize(200, 100), CSize(200, 120), CSize(80, 120)}) {
         dialog.Resize(size.cx, size.cy);
         const Picture shown = dialog.Repaint();
         EXPECT_EQ(dialog.Held(), size);

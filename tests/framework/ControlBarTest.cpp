@@ -170,6 +170,11 @@ TEST_F(ControlBarTest, AWishForLengthWrapsBetweenGroups) {
     CRect third;
     tools.GetItemRect(3, third);
     EXPECT_EQ(third.TopLeft(), CPoint(0, kButtonHeight + kGap * 2 / 3));
+    // A wider gap, as for a control in the bar, moves what comes after it.
+    tools.SetButtonInfo(2, ID_SEPARATOR, TBBS_SEPARATOR, 50);
+    EXPECT_EQ(tools.CalcDynamicLayout(1000, LM_HORZ | LM_COMMIT).cx, 4 * kButton + 50 + 7);
+    tools.GetItemRect(3, third);
+    EXPECT_EQ(third.left, 2 * kButton + 50);
 }
 
 /// Tells the layout, and nobody else, that the first button is not there.

@@ -132,8 +132,18 @@ BEGIN_MESSAGE_MAP(Child, CMDIChildWnd)
     ON_COMMAND(201, &Child::OnHandled)
 END_MESSAGE_MAP()
 
-TEST(MdiFrame, TheActiveChildBringsItsMenuAndComesFirst) {
-    auto* const frame = std::make_unique<CMDIFrameWnd>().release();
+class MdiFrame : public CMDIFrameWnd {
+public:
+    int m_handled = 0;
+    void OnHandled() { ++m_handled; }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(MdiFrame, CMDIFrameWnd)
+    ON_COMMAND(201, &MdiFrame::OnHandled)
+END_MESSAGE_MAP()
+
+TEST(Mdi, TheActiveChildBringsItsMenuAndComesFirst) {
+    auto* const frame = std::make_unique<MdiFrame>().release();
     ASSERT_TRUE(frame->LoadFrame(102, WS_OVERLAPPEDWINDOW));
     AfxGetApp()->m_pMainWnd = frame;
     frame->ShowWindow(SW_SHOW);
@@ -177,6 +187,13 @@ TEST(MdiFrame, TheActiveChildBringsItsMenuAndComesFirst) {
     first->SendMessage(WM_CLOSE);
     EXPECT_EQ(Child::alive, 0);
     EXPECT_EQ(frame->GetMenu()->m_hMenu, own.m_hMenu);
+    // A child's accelerators are for the frame, too.
+    auto* const plain = std::make_unique<CMDIChildWnd>().release();
+    ASSERT_TRUE(plain->LoadFrame(102));
+    MSG key = {plain->m_hWnd, WM_KEYDOWN, VK_F9, 1, 0, {}};
+    EXPECT_TRUE(plain->PreTranslateMessage(&key));
+    EXPECT_EQ(frame->m_handled, 1);
+    plain->DestroyWindow();
     own.Detach();
     AfxGetApp()->m_pMainWnd = nullptr;
     frame->DestroyWindow();
