@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+// MFC wants to be the one that includes <windows.h>.
+#include <afxwin.h>
+
 #include "controls/DrawButton.h"
 
 #include <gtest/gtest.h>
-
-#include <afxwin.h>
 
 #include <functional>
 #include <tuple>
