@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+// MFC wants to be the one that includes <windows.h>.
+#include <afxwin.h>
+
 #include "controls/DrawButton.h"
 
 #include "controls/GlyphPainter.h"

@@ -140,8 +140,8 @@ LRESULT CListCtrlStyled::OnFindItem(WPARAM wParam, LPARAM lParam) {
     if (lParam == 0)
         return -1;
     const auto& search = *reinterpret_cast<const LVFINDINFO*>(lParam);
-    if ((search.flags & LVFI_PARAM) == 0)
-        return Default();
+    if ((search.flags & LVFI_PARAM) == 0 || (GetStyle() & LVS_OWNERDATA) != 0)
+        return Default(); // a virtual list asks its parent
     const int count = GetItemCount();
     const int start = static_cast<int>(wParam);
     for (int item = start < 0 ? 0 : start; item < count; ++item) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
+// MFC wants to be the one that includes <windows.h>.
+#include <afxwin.h>
+
 #include "controls/DrawButton.h"
 
 #include <gtest/gtest.h>
-
-#include <afxwin.h>
 
 #include <functional>
 #include <tuple>
@@ -247,12 +248,11 @@ using Script = std::vector<std::function<void()>>;
 /// A window with a button, and a script: one step is run at a time, also inside the click loop.
 class Host : public CWnd {
 public:
-    explicit Host(UINT flags, int left = 100)
-        : m_inFrame((flags & B::kNonClient) != 0),
-          m_button(flags, m_inFrame ? RECT{40, 4, 57, 24} : RECT{20, 10, 37, 30}) {
+    explicit Host(UINT flags, int left = 100) : m_button(flags, {40, 4, 57, 24}) {
+        const DWORD frame = (flags & B::kNonClient) != 0 ? WS_CAPTION | WS_THICKFRAME : 0;
         CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)),
-                 "host", WS_POPUP | WS_VISIBLE | (m_inFrame ? WS_CAPTION | WS_THICKFRAME : 0),
-                 CRect(CPoint(left, 100), CSize(160, 120)), nullptr, 0);
+                 "host", WS_POPUP | WS_VISIBLE | frame, CRect(CPoint(left, 100), CSize(160, 120)),
+                 nullptr, 0);
         ::SetForegroundWindow(m_hWnd);
         ::SetDoubleClickTime(1); // each press is one of its own
         Point(300, 200);
@@ -269,8 +269,7 @@ public:
     void Point(int x, int y) const {
         CRect window;
         GetWindowRect(window);
-        const RECT& place = m_button.GetRect();
-        automation::MoveMouse({window.left + place.left + x, window.top + place.top + y});
+        automation::MoveMouse({window.left + 40 + x, window.top + 4 + y});
     }
 
     /// Presses at a point of the button, then runs the steps; waits for the end of the click.
@@ -288,80 +287,57 @@ public:
         return m_result;
     }
 
-    bool m_inFrame;
     LoggedButton m_button;
     UINT m_repeatTimer = 0;
     int m_keys = 0;
     int m_repeats = 0;
 
 protected:
-    afx_msg void OnPaint() {
-        CPaintDC dc(this);
-        if (!m_inFrame)
-            m_button.CDrawButton::Draw(dc, 0);
-    }
-    afx_msg void OnNcPaint() {
-        Default();
-        CWindowDC dc(this);
-        if (m_inFrame)
-            m_button.CDrawButton::Draw(dc, 0);
-    }
-    afx_msg void OnMouseMove(UINT, CPoint point) {
-        m_button.OnMouseMove(m_hWnd, FromClient(point));
-    }
-    afx_msg void OnNcMouseMove(UINT, CPoint point) {
-        m_button.OnMouseMove(m_hWnd, FromScreen(point));
-    }
-    afx_msg void OnLButtonDown(UINT, CPoint point) { Track(FromClient(point)); }
-    afx_msg void OnNcLButtonDown(UINT, CPoint point) { Track(FromScreen(point)); }
-    afx_msg void OnKeyDown(UINT, UINT, UINT) { ++m_keys; }
-    afx_msg void OnTimer(UINT_PTR timer) {
-        if (timer == kRepeat)
-            ++m_repeats;
-        else if (timer != kScriptTimer)
-            Default();
-        else if (!m_script.empty()) {
-            const auto step = m_script.front();
-            m_script.erase(m_script.begin());
-            step();
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        switch (message) {
+        case WM_MOUSEMOVE:
+        case WM_NCMOUSEMOVE:
+            m_button.OnMouseMove(m_hWnd, InWindow(lParam, message == WM_MOUSEMOVE));
+            return 0;
+        case WM_LBUTTONDOWN:
+        case WM_NCLBUTTONDOWN:
+            if (m_repeatTimer != 0)
+                SetTimer(m_repeatTimer, 20, nullptr);
+            m_result = m_button.TrackClick(m_hWnd, InWindow(lParam, message == WM_LBUTTONDOWN),
+                                           m_repeatTimer);
+            m_clicked = true;
+            return 0;
+        case WM_TIMER:
+            m_repeats += wParam == kRepeat;
+            if (wParam == kScriptTimer && !m_script.empty()) {
+                const auto step = m_script.front();
+                m_script.erase(m_script.begin());
+                step();
+            }
+            return 0;
+        default:
+            m_keys += message == WM_KEYDOWN;
         }
+        const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+        if (message == WM_PAINT || message == WM_NCPAINT)
+            m_button.CDrawButton::Draw(CWindowDC(this), 0);
+        return result;
     }
-    DECLARE_MESSAGE_MAP()
 
 private:
-    CPoint FromScreen(CPoint point) const {
+    CPoint InWindow(LPARAM lParam, bool ofClient) const {
+        CPoint point(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+        if (ofClient)
+            ClientToScreen(&point);
         CRect window;
         GetWindowRect(window);
         return point - window.TopLeft();
-    }
-    CPoint FromClient(CPoint point) const {
-        if (!m_inFrame)
-            return point;
-        ClientToScreen(&point);
-        return FromScreen(point);
-    }
-    void Track(CPoint point) {
-        if (m_repeatTimer != 0)
-            SetTimer(m_repeatTimer, 20, nullptr);
-        m_result = m_button.TrackClick(m_hWnd, point, m_repeatTimer);
-        m_clicked = true;
     }
 
     Script m_script;
     UINT m_result = 0;
     bool m_clicked = false;
 };
-
-BEGIN_MESSAGE_MAP(Host, CWnd)
-    ON_WM_PAINT()
-    ON_WM_NCPAINT()
-    ON_WM_MOUSEMOVE()
-    ON_WM_NCMOUSEMOVE()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_NCLBUTTONDOWN()
-    ON_WM_KEYDOWN()
-    ON_WM_TIMER()
-END_MESSAGE_MAP()
 
 class DrawButtonIn : public testing::TestWithParam<UINT> {};
 
@@ -417,10 +393,7 @@ TEST_P(DrawButtonIn, FollowsTheMouseInTheFlatLook) {
     const UINT flags = kFlatDown | GetParam();
     Host host(flags);
     const auto comesToShow = [&](COLORREF color) {
-        const RECT& place = host.m_button.GetRect();
-        return PumpUntil([&] {
-            return automation::CaptureWindow(host).At(place.left + 1, place.top + 1) == color;
-        });
+        return PumpUntil([&] { return automation::CaptureWindow(host).At(41, 5) == color; });
     };
     EXPECT_TRUE(comesToShow(::GetSysColor(COLOR_BTNFACE)));
     host.Point(5, 5);
@@ -443,13 +416,13 @@ TEST(DrawButton, NoClickWhereThereCanBeNone) {
     EXPECT_EQ(host.Click(5, 5, {}), 0u) << "disabled";
     host.m_button.SetFlags(B::kDownArrow);
     host.SetCapture();
-    EXPECT_EQ(host.m_button.TrackClick(host, {25, 15}), 0u) << "captured already";
+    EXPECT_EQ(host.m_button.TrackClick(host, {45, 9}), 0u) << "captured already";
     EXPECT_EQ(::GetCapture(), host.m_hWnd) << "and it stays so";
     ::ReleaseCapture();
     EXPECT_TRUE(host.m_button.m_states.empty());
 
     ::PostQuitMessage(7);
-    EXPECT_EQ(host.m_button.TrackClick(host, {25, 15}), 0u);
+    EXPECT_EQ(host.m_button.TrackClick(host, {45, 9}), 0u);
     MSG message = {};
     EXPECT_TRUE(::PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "passed on";
     EXPECT_EQ(message.wParam, 7u);

@@ -100,6 +100,7 @@ public:
 
     List m_list;
     std::vector<std::string> m_log;
+    int m_searches = 0; ///< that a virtual list asks its parent for
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
@@ -107,6 +108,7 @@ protected:
             CWnd::OnNotify(wParam, lParam, result); // what the list keeps to itself
         const auto& change = *reinterpret_cast<const NMLISTVIEW*>(lParam);
         const int code = static_cast<int>(change.hdr.code);
+        m_searches += change.hdr.code == LVN_ODFINDITEMA || change.hdr.code == LVN_ODFINDITEMW;
         if (!handled && change.hdr.hwndFrom == m_list.m_hWnd && code <= -100 && code > -104)
             Log("told", code, change.iItem, change.lParam);
         return handled;
@@ -439,6 +441,10 @@ TEST(ListCtrlStyled, RefusesWhatIsNotThere) {
     virtualHost.m_list.SetItemCount(5);
     virtualHost.Look();
     EXPECT_FALSE(virtualHost.m_list.SetRowFlags(0, 1));
+    LVFINDINFO search = {};
+    search.flags = LVFI_PARAM;
+    virtualHost.m_list.FindItem(&search);
+    EXPECT_EQ(virtualHost.m_searches, 1) << "the parent knows";
     EXPECT_NE(virtualHost.Back(0, 1), kRed) << "painted all the same";
     Host<Subject> oneColumn(3, 1);
     EXPECT_TRUE(oneColumn.m_list.DeleteColumn(0));
@@ -502,10 +508,11 @@ TEST(ListCtrlStyled, PaintsMakeNothing) {
             list.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_CLIENT);
     };
     paint(10);
-    const GdiLedger ledger;
     const long long allocations = HeapCount::Now().made;
     paint(100);
     EXPECT_EQ(HeapCount::Now().made, allocations);
+    const GdiLedger ledger;
+    paint(100);
     EXPECT_EQ(ledger.Made(), 0);
     EXPECT_EQ(ledger.Faults(), "");
     EXPECT_NE(canvas.Count(::GetSysColor(COLOR_HIGHLIGHT), {0, 0, 90, 40}), 0);
