@@ -29,7 +29,7 @@ private:
     CButtonXP m_ok;
 };
 
-constexpr int kComboPlace = 3; // among the toolbar's buttons, with a gap on each side
+constexpr int kComboPlace = 2; // among the toolbar's buttons: after the arrows
 constexpr int kComboWidth = 140;
 
 constexpr UINT kDockBars[] = {AFX_IDW_DOCKBAR_TOP, AFX_IDW_DOCKBAR_LEFT, AFX_IDW_DOCKBAR_RIGHT,

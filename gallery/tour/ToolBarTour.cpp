@@ -12,8 +12,8 @@
 
 namespace {
 
-/// The buttons of the toolbar in the order of its resource, the combo box among them.
-enum Button { kPrevious = 0, kCombo = 3, kPaste = 6, kSkin = 8, kSchemes = 10 };
+/// Some buttons of the toolbar, by their index; the combo box takes one.
+enum Button { kPrevious = 0, kPaste = 5, kSkin = 7, kSchemes = 9 };
 
 /// In screen coordinates.
 RECT ButtonRect(HWND toolBar, int index) {
