@@ -234,7 +234,15 @@ void ShowEveryState(Frame* frame) {
     EXPECT_TRUE(frame->m_commands.empty());
 
     const CRect split = frame->ButtonRect(kSplit);
-    frame->MoveMouseTo({split.right - 5, split.CenterPoint().y});
+    const CPoint arrow(split.right - 5, split.CenterPoint().y);
+    frame->MoveMouseTo({20, 150});
+    automation::PressMouse(); // elsewhere, so that no menu opens
+    frame->MoveMouseTo(arrow);
+    EXPECT_TRUE(ComesToShow(*frame, kSplit, kHot)) << "not the button half is pressed";
+    Frame::ParkMouse();
+    automation::ReleaseMouse();
+
+    frame->MoveMouseTo(arrow);
     EXPECT_TRUE(WhileMenusRun([&] {
         automation::PressMouse();
         automation::ReleaseMouse();
