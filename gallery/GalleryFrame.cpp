@@ -210,12 +210,18 @@ BOOL CALLBACK SwitchSkin(HWND window, LPARAM enabled) {
     return TRUE;
 }
 
+void SwitchSkinOfAll(HWND window, LPARAM enabled) {
+    ::EnumChildWindows(window, &SwitchSkin, enabled);
+    SwitchSkin(window, enabled);
+}
+
 } // namespace
 
 void CGalleryFrame::OnSkin() {
     const LPARAM enabled = !tint::IsSkinEnabled(m_hWnd);
-    ::EnumChildWindows(m_hWnd, &SwitchSkin, enabled);
-    SwitchSkin(m_hWnd, enabled);
+    SwitchSkinOfAll(m_hWnd, enabled);
+    if (!IsChild(&m_toolBar)) // it floats
+        SwitchSkinOfAll(m_toolBar, enabled);
 }
 
 void CGalleryFrame::OnUpdateSkin(CCmdUI* item) {

@@ -62,11 +62,14 @@ void PictureTour::Run() {
     ::SetForegroundWindow(m_gallery);
     // Where no window manager runs, nobody tells the caption that its window is the active one.
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
-    WPARAM command = ID_SCHEME_FIRST;
-    for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
-        ::SendMessageA(m_gallery, WM_COMMAND, command++, 0);
-        VisitScenes(scheme.name);
+    const FlatMenus flatMenus;
+    constexpr int visited = 3; // schemes; of the others one sheet shows enough
+    for (int scheme = 0; scheme < visited; ++scheme) {
+        ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCHEME_FIRST + scheme), 0);
+        VisitScenes(automation::ColorSchemes()[scheme].name);
     }
+    ChooseScene("Colours");
+    TourColors(*this);
 }
 
 void PictureTour::VisitScenes(const std::string& scheme) {
