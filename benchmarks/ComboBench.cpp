@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/ComboBench.h"
 
+#include "benchmarks/BenchHost.h"
 #include "benchmarks/BlitWindow.h"
 #include "controls/ComboBoxXP.h"
 
@@ -18,14 +19,12 @@ void ShowText(CComboBox& combo) {
 } // namespace
 
 std::vector<Row> BenchCombo() {
-    CWnd host;
-    host.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)),
-                  "bench", WS_POPUP | WS_VISIBLE, CRect(20, 20, 220, 180), nullptr, 0);
+    BenchHost host(CSize(200, 160));
 
     constexpr DWORD style = WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST;
     CComboBox system;
     system.Create(style, PlaceAt(10, 120), &host, 100); // its height is that of the list
-    system.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
+    system.SetFont(DialogFont());
     ShowText(system);
     CRect size;
     system.GetWindowRect(size);
@@ -35,11 +34,9 @@ std::vector<Row> BenchCombo() {
     BlitWindow blit;
     blit.CreateIn(host, PlaceAt(90, size.Height()));
 
-    const auto rows = Compare("paint a combo box",
-                              {{"ComboBoxXP", [&] { Repaint(skinned); }},
-                               {"the system's own combo box", [&] { Repaint(system); }},
-                               {"a single blit", [&] { Repaint(blit); }}},
-                              200);
-    host.DestroyWindow();
-    return rows;
+    return Compare("paint a combo box",
+                   {{"ComboBoxXP", [&] { Repaint(skinned); }},
+                    {"the system's own combo box", [&] { Repaint(system); }},
+                    {"a single blit", [&] { Repaint(blit); }}},
+                   200);
 }

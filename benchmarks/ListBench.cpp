@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "benchmarks/BenchHost.h"
 #include "controls/ListCtrlStyled.h"
 
 namespace {
@@ -66,9 +67,7 @@ void ScrollPage(CListCtrl& list) {
 } // namespace
 
 std::vector<Row> BenchList() {
-    CWnd host;
-    host.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)),
-                  "bench", WS_POPUP | WS_VISIBLE, CRect(20, 20, 1000, 440), nullptr, 0);
+    BenchHost host(CSize(980, 420));
     CListCtrlStyled styled;
     CListCtrl plain;
     CreateIn(styled, host, 0);
@@ -99,6 +98,5 @@ std::vector<Row> BenchList() {
     const double plainEmpty = Microseconds([&] { plain.DeleteAllItems(); });
     const double styledEmpty = Microseconds([&] { styled.DeleteAllItems(); });
     rows.push_back(OneRun("delete all rows of a list, each", styledEmpty, plainEmpty));
-    host.DestroyWindow();
     return rows;
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "benchmarks/BenchHost.h"
 #include "draw/BufferDC.h"
 #include "menus/MenuItemData.h"
 #include "menus/MenuPaint.h"
@@ -42,10 +43,7 @@ void ShadeByPixel(HDC dc, int right, int bottom) {
 } // namespace
 
 std::vector<Row> BenchMenus() {
-    CWnd host;
-    host.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)),
-                  "bench", WS_POPUP | WS_VISIBLE, CRect(20, 20, 260, 360), nullptr, 0);
-    host.UpdateWindow();
+    BenchHost host(CSize(240, 340), COLOR_WINDOW);
     CMenu menu;
     menu.CreatePopupMenu();
     menu.AppendMenu(MF_STRING, kCommand, "&Open...\tCtrl+O");
@@ -77,6 +75,5 @@ std::vector<Row> BenchMenus() {
                     200);
         rows.insert(rows.end(), items.begin(), items.end());
     }
-    host.DestroyWindow();
     return rows;
 }

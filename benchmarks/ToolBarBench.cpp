@@ -6,6 +6,7 @@
 
 #include <numeric>
 
+#include "benchmarks/BenchHost.h"
 #include "benchmarks/BlitWindow.h"
 #include "menus/ToolBarXP.h"
 
@@ -16,13 +17,6 @@ constexpr UINT kFirstCommand = 100;
 
 CRect PlaceAt(int top) {
     return {CPoint(10, top), CSize(kButtons * 23 + 10, 30)};
-}
-
-/// Images of one icon of the system's.
-HIMAGELIST MakeImages() {
-    const HIMAGELIST images = ::ImageList_Create(16, 16, ILC_COLOR32 | ILC_MASK, 1, 0);
-    ::ImageList_AddIcon(images, ::LoadIcon(nullptr, IDI_INFORMATION));
-    return images;
 }
 
 void SetUp(CToolBar& bar, CWnd& host, int top, HIMAGELIST images) {
@@ -40,10 +34,10 @@ void SetUp(CToolBar& bar, CWnd& host, int top, HIMAGELIST images) {
 } // namespace
 
 std::vector<Row> BenchToolBar() {
-    CWnd host;
-    host.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)),
-                  "bench", WS_POPUP | WS_VISIBLE, CRect(20, 20, 540, 180), nullptr, 0);
-    const HIMAGELIST images = MakeImages();
+    BenchHost host(CSize(520, 160));
+    CImageList images;
+    images.Create(16, 16, ILC_COLOR32 | ILC_MASK, 1, 0);
+    images.Add(::LoadIcon(nullptr, IDI_INFORMATION));
     CToolBarXP skinned;
     SetUp(skinned, host, 10, images);
     CToolBar system;
@@ -51,12 +45,9 @@ std::vector<Row> BenchToolBar() {
     BlitWindow blit;
     blit.CreateIn(host, PlaceAt(90));
 
-    const auto rows = Compare("paint a toolbar of 20 buttons",
-                              {{"ToolBarXP", [&] { Repaint(skinned); }},
-                               {"the system's own toolbar", [&] { Repaint(system); }},
-                               {"a single blit", [&] { Repaint(blit); }}},
-                              40);
-    host.DestroyWindow();
-    ::ImageList_Destroy(images);
-    return rows;
+    return Compare("paint a toolbar of 20 buttons",
+                   {{"ToolBarXP", [&] { Repaint(skinned); }},
+                    {"the system's own toolbar", [&] { Repaint(system); }},
+                    {"a single blit", [&] { Repaint(blit); }}},
+                   40);
 }

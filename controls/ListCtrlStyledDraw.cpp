@@ -124,10 +124,15 @@ LRESULT CListCtrlStyled::OnSetFont(WPARAM, LPARAM) {
 bool CListCtrlStyled::SelectedFont::Select(HDC dc, FontPointer newFont) {
     if (newFont == nullptr)
         return false;
-    replaced = ::SelectObject(dc, newFont->handle());
-    if (replaced != nullptr)
-        font = std::move(newFont);
-    return replaced != nullptr;
+    // A cell in the font of its row finds that one selected, and to select a font is the dearest part
+    // of drawing a cell.
+    const bool there = ::GetCurrentObject(dc, OBJ_FONT) == newFont->handle();
+    if (!there)
+        replaced = ::SelectObject(dc, newFont->handle());
+    if (!there && replaced == nullptr)
+        return false;
+    font = std::move(newFont);
+    return true;
 }
 
 void CListCtrlStyled::SelectedFont::Restore(HDC dc) {

@@ -68,7 +68,14 @@ private:
     COLORREF CheckedFill() const;
 
     bool HasGradient() const {
-        return MenuLook::Get().ShowGradient() && m_dc.GetDeviceCaps(BITSPIXEL) > 8;
+        return MenuLook::Get().ShowGradient() && BitsPerPixel() > 8;
+    }
+
+    int BitsPerPixel() const {
+        int& known = GetMenuState().bitsPerPixel;
+        if (known == 0)
+            known = m_dc.GetDeviceCaps(BITSPIXEL);
+        return known;
     }
 
     /// The rectangle without the strip that is kept for a bar item's shadow.

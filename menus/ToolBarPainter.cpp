@@ -37,6 +37,9 @@ ToolBarPainter::ToolBarPainter(CDC& dc, const CWnd& toolBar, CSize imageSize)
     : m_dc(dc), m_toolBar(toolBar.m_hWnd), m_imageSize(imageSize) {
     m_images = reinterpret_cast<HIMAGELIST>(Ask(TB_GETIMAGELIST));
     ::GetClientRect(m_toolBar, &m_client);
+    m_buttonDown = ::GetKeyState(VK_LBUTTON) < 0;
+    if (!m_buttonDown)
+        return; // where the mouse is shows only then, and to ask takes a while
     ::GetCursorPos(&m_mouse);
     ::ScreenToClient(m_toolBar, &m_mouse);
 }
@@ -168,7 +171,7 @@ void ToolBarPainter::PaintSilhouette(const Item& item) {
 }
 
 bool ToolBarPainter::IsPressedInto(const CRect& rect) const {
-    return ::GetKeyState(VK_LBUTTON) < 0 && rect.PtInRect(m_mouse);
+    return m_buttonDown && rect.PtInRect(m_mouse);
 }
 
 LRESULT ToolBarPainter::Ask(UINT message, WPARAM wParam, LPARAM lParam) const {

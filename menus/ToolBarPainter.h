@@ -48,7 +48,8 @@ private:
     CSize m_imageSize;
     HIMAGELIST m_images;
     CRect m_client;
-    CPoint m_mouse;
+    bool m_buttonDown;
+    CPoint m_mouse; ///< while the button is down
 };
 
 } // namespace tint

@@ -171,6 +171,7 @@ TEST(MenuItemPaint, BackgroundIsTheRules) {
             const LookSetting gradient("MenuXP", "ShowGradient", c.gradient);
             const LookSetting gradientSelected("MenuEx", "ShowGradientSel", c.gradientSelected);
             g_bitsPerPixel = c.bitsPerPixel;
+            CMenuXP::ConvertMenu(nullptr, menu, true, false); // as a popup that opens anew
             const RowCanvas ours;
             const RowCanvas rule;
             ours.Paint(menu, c.data, c.state);
