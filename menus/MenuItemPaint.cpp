@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "menus/MenuItemPaint.h"
 
-#include <memory>
-#include <type_traits>
-
 #include "draw/ColorMarkers.h"
 #include "draw/Hls.h"
 #include "draw/Selectors.h"
 #include "menus/MenuLook.h"
 #include "menus/MenuPaint.h"
 #include "menus/MenuState.h"
+#include "menus/Silhouette.h"
 
 namespace tint {
 namespace {
@@ -23,11 +21,6 @@ constexpr int kAcceleratorGap = 12; // on the right of accelerator texts
 
 /// The system's check mark (OBM_CHECK, which windows.h shows only to those who ask for OEM resources).
 constexpr UINT kOemCheckMark = 32760;
-
-struct IconDestroyer {
-    void operator()(HICON icon) const { ::DestroyIcon(icon); }
-};
-using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
 
 COLORREF System(int index) {
     return ::GetSysColor(index);
@@ -68,7 +61,6 @@ private:
     void DrawTexts(UINT prefix);
     void DrawCheckedFrame();
     void DrawImage();
-    void DrawSilhouette(bool lifted);
     void DrawCheckMark();
     void DrawRadioBullet();
 
@@ -228,28 +220,21 @@ void Painter::DrawCheckedFrame() {
 }
 
 void Painter::DrawImage() {
-    const bool raised = m_state.selected && !m_item.IsChecked();
-    if (m_disabled || raised)
-        DrawSilhouette(m_state.selected && !m_disabled);
-    if (m_disabled)
-        return; // the silhouette is all there is to see
-    const int offset = raised ? 2 : 3;
     const CImgDesc& image = m_item.Image();
+    const bool raised = m_state.selected && !m_item.IsChecked();
+    const auto silhouette = [&](int offset, COLORREF color) {
+        DrawSilhouette(m_dc, image, {m_rect.left + offset, m_rect.top + offset},
+                       {kImageSize, kImageSize}, color);
+    };
+    if (m_disabled) {
+        silhouette(3, Face(-27)); // is all there is to see
+        return;
+    }
+    if (raised)
+        silhouette(4, Highlight(50, -66));
+    const int offset = raised ? 2 : 3;
     ::ImageList_Draw(image.imageList, image.index, m_dc, m_rect.left + offset, m_rect.top + offset,
                      ILD_TRANSPARENT);
-}
-
-/// @param lifted  it is the shadow of a raised image rather than a disabled image itself
-void Painter::DrawSilhouette(bool lifted) {
-    const CImgDesc& image = m_item.Image();
-    const Icon icon(::ImageList_GetIcon(image.imageList, image.index, 0));
-    if (!icon)
-        return;
-    CBrush brush;
-    brush.CreateSolidBrush(lifted ? Highlight(50, -66) : Face(-27));
-    const int offset = lifted ? 4 : 3;
-    m_dc.DrawState(CPoint(m_rect.left + offset, m_rect.top + offset), CSize(kImageSize, kImageSize),
-                   icon.get(), DSS_MONO, static_cast<HBRUSH>(brush.GetSafeHandle()));
 }
 
 void Painter::DrawCheckMark() {

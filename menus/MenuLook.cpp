@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <afxwin.h>
+
 #include "menus/MenuLook.h"
 
 #include <algorithm>

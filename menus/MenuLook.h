@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <afxwin.h>
+#include <windows.h>
 
 #include <optional>
 

@@ -3,6 +3,7 @@
 
 #include "draw/Hls.h"
 #include "draw/Selectors.h"
+#include "menus/Silhouette.h"
 
 namespace tint {
 namespace {
@@ -163,15 +164,10 @@ void ToolBarPainter::PaintArrow(const Item& item) {
 }
 
 void ToolBarPainter::PaintSilhouette(const Item& item) {
-    const HICON icon = ::ImageList_GetIcon(m_images, item.button.iBitmap, ILD_TRANSPARENT);
-    if (icon == nullptr)
-        return;
     const int offset = item.hot ? 4 : 3;
-    CBrush brush;
-    brush.CreateSolidBrush(SilhouetteColor(item.hot, item.IsOpen()));
-    m_dc.DrawState(CPoint(item.rect.left + offset, item.rect.top + offset), m_imageSize, icon,
-                   DSS_MONO, static_cast<HBRUSH>(brush));
-    ::DestroyIcon(icon);
+    DrawSilhouette(m_dc, {m_images, item.button.iBitmap},
+                   {item.rect.left + offset, item.rect.top + offset}, m_imageSize,
+                   SilhouetteColor(item.hot, item.IsOpen()));
 }
 
 bool ToolBarPainter::IsPressedInto(const CRect& rect) const {

@@ -101,9 +101,8 @@ LRESULT CALLBACK CWndMenuXP::PopupWndProc(HWND window, UINT message, WPARAM wPar
         break;
     case WM_WINDOWPOSCHANGING:
         if (popup != nullptr)
-            tint::Contained([=] {
-                popup->OnWindowPosChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
-            });
+            tint::Contained(
+                [=] { popup->OnWindowPosChanging(*reinterpret_cast<WINDOWPOS*>(lParam)); });
         break;
     case WM_NCCALCSIZE: {
         const LRESULT result = callOld();

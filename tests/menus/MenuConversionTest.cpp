@@ -180,6 +180,10 @@ TEST(ConversionImages, ComeFromTheFirstToolbarWithTheCommand) {
         ::ModifyMenuA(menu, 0, MF_BYPOSITION | MF_STRING, kFirst, "again");
         child.DestroyWindow();
         Convert(menu, &frame);
+        for (const HIMAGELIST list : {HIMAGELIST{}, first.m_list}) {
+            first.SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list));
+            EXPECT_EQ(ImageOf(menu, 0).imageList, list) << "while the toolbar has it";
+        }
     }
     // The toolbars have gone, and their image lists with them.
     const TestMenu menu({"a"});

@@ -7,6 +7,7 @@
 
 #include "automation/RealInput.h"
 #include "draw/Skin.h"
+#include "tests/support/ImportPatch.h"
 #include "tests/support/Pump.h"
 
 namespace {
@@ -19,7 +20,19 @@ bool IsOwnerDrawn(HMENU menu) {
     return (info.fType & MFT_OWNERDRAW) != 0;
 }
 
+decltype(&::SystemParametersInfoA) g_realParameters;
+bool g_highContrast = false;
+
+BOOL WINAPI PretendContrast(UINT action, UINT size, void* value, UINT flags) {
+    if (action != SPI_GETHIGHCONTRAST)
+        return g_realParameters(action, size, value, flags);
+    static_cast<HIGHCONTRASTA*>(value)->dwFlags = g_highContrast ? HCF_HIGHCONTRASTON : 0;
+    return TRUE;
+}
+
 TEST(MenuSkin, GoesAndComesWithItsSwitch) {
+    ImportPatch patch;
+    g_realParameters = patch.Redirect("user32.dll", "SystemParametersInfoA", &PretendContrast);
     MenuWindow window({"&One", "&Two"});
     struct Switches {
         bool skin;
@@ -28,10 +41,7 @@ TEST(MenuSkin, GoesAndComesWithItsSwitch) {
     for (const auto& [skin, contrast] :
          {Switches{true, false}, {false, false}, {true, false}, {true, true}, {true, false}}) {
         const bool enabled = skin && !contrast;
-        HIGHCONTRASTA parameters = {};
-        parameters.cbSize = sizeof parameters;
-        parameters.dwFlags = contrast ? HCF_HIGHCONTRASTON : 0;
-        ::SystemParametersInfoA(SPI_SETHIGHCONTRAST, sizeof parameters, &parameters, 0);
+        g_highContrast = contrast;
         window.SendMessage(WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST); // as the system does
         tint::EnableSkin(window, skin);
         EXPECT_EQ(IsOwnerDrawn(window.Bar()), enabled);

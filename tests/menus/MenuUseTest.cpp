@@ -43,7 +43,8 @@ void TypeInto(const MenuWindow& window, const std::vector<WORD>& keys) {
     for (std::size_t i = 1; i < keys.size(); ++i) {
         const HMENU file = window.File();
         if (keys[i] == kClickFirst || keys[i] == kClickLast)
-            Click(MiddleOf(window, file, keys[i] == kClickFirst ? 0 : ::GetMenuItemCount(file) - 1));
+            Click(
+                MiddleOf(window, file, keys[i] == kClickFirst ? 0 : ::GetMenuItemCount(file) - 1));
         else
             automation::TypeKey(keys[i]);
         ::Sleep(50);
@@ -122,8 +123,7 @@ TEST(MenuUse, TwoThousandOpeningsLeaveNothingBehind) {
     const GdiLedger ledger;
     open(2000);
     EXPECT_GT(ledger.Made(), 2000) << "they were painted";
-    EXPECT_EQ(ledger.Unreturned(), "");
-    EXPECT_EQ(ledger.Faults(), "");
+    EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
     HWND left = nullptr;
     while ((left = ::FindWindowExA(nullptr, left, "#32768", nullptr)) != nullptr) {
         EXPECT_EQ(::GetPropA(left, "XPWndProp_OldProc"), nullptr);
@@ -156,8 +156,8 @@ public:
     ~Skinned() override { this->DestroyWindow(); }
     void PostNcDestroy() override {}
 
-    std::function<void()> m_onPopup;  ///< called before a popup opens
-    std::vector<WPARAM> m_commands; ///< the application's and the system's
+    std::function<void()> m_onPopup; ///< called before a popup opens
+    std::vector<WPARAM> m_commands;  ///< the application's and the system's
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {

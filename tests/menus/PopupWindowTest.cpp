@@ -137,13 +137,13 @@ bool HookEndsWithTheLastUninstall() {
     const MenuWindow window({"&One"});
     const BarePopup popup;
     const LONG_PTR old = reinterpret_cast<LONG_PTR>(::GetPropA(popup, kOldProc));
-    const bool counted = CMenuXP::InstallHook() == 3; // the environment's and the window's before it
+    const bool counted =
+        CMenuXP::InstallHook() == 3; // the environment's and the window's before it
     CMenuXP::UninstallHook();
     CMenuXP::UninstallHook();
     const bool kept = IsSubclassed(popup); // one install is left
     CMenuXP::UninstallHook();
-    const bool restored =
-        !IsSubclassed(popup) && ProcOf(popup) == old && popup.Object() == nullptr;
+    const bool restored = !IsSubclassed(popup) && ProcOf(popup) == old && popup.Object() == nullptr;
     CMenuXP::UninstallHook(); // without an install
     const bool onlyCounted = CMenuXP::InstallHook() == 1;
     const BarePopup later;
@@ -256,8 +256,8 @@ TEST(PopupFrame, IsFlatWithAShadowAndOpensToTheBarItem) {
             PutFrame(want, shadow);
             const LONG left = item.left - rect.left;
             const LONG right = item.right - rect.left;
-            std::fill(want.pixels.begin() + std::max(left - 3, 0L),
-                      want.pixels.begin() + right - 5, Face(20));
+            std::fill(want.pixels.begin() + std::max(left - 3, 0L), want.pixels.begin() + right - 5,
+                      Face(20));
             EXPECT_EQ(FirstDifference(have, want, InsideOf(want, shadow)), "") << osClass;
             automation::TypeKey(VK_ESCAPE);
             automation::TypeKey(VK_ESCAPE);

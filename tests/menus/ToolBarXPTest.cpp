@@ -15,7 +15,6 @@
 #include "draw/Skin.h"
 #include "tests/menus/MenuTesting.h"
 #include "tests/support/GdiLedger.h"
-#include "tests/support/ImportPatch.h"
 #include "tests/support/Pump.h"
 
 using automation::Picture;
@@ -234,7 +233,15 @@ void ShowEveryState(Frame* frame) {
     EXPECT_TRUE(frame->m_commands.empty());
 
     const CRect split = frame->ButtonRect(kSplit);
-    frame->MoveMouseTo({split.right - 5, split.CenterPoint().y});
+    const CPoint arrow(split.right - 5, split.CenterPoint().y);
+    frame->MoveMouseTo({20, 150});
+    automation::PressMouse(); // elsewhere, so that no menu opens
+    frame->MoveMouseTo(arrow);
+    EXPECT_TRUE(ComesToShow(*frame, kSplit, kHot)) << "not the button half is pressed";
+    Frame::ParkMouse();
+    automation::ReleaseMouse();
+
+    frame->MoveMouseTo(arrow);
     EXPECT_TRUE(WhileMenusRun([&] {
         automation::PressMouse();
         automation::ReleaseMouse();
@@ -365,25 +372,6 @@ TEST(ToolBarXP, MayEndWhileItsMenuIsOpen) {
     frame->DestroyWindow();
 }
 
-/// Icons are no GDI objects, so they are counted by themselves.
-struct Icons {
-    decltype(&::ImageList_GetIcon) get;
-    decltype(&::DestroyIcon) destroy;
-    int made;
-    int destroyed;
-} g_icons;
-
-HICON WINAPI CountedGetIcon(HIMAGELIST list, int index, UINT flags) {
-    const HICON icon = g_icons.get(list, index, flags);
-    g_icons.made += icon != nullptr;
-    return icon;
-}
-
-BOOL WINAPI CountedDestroyIcon(HICON icon) {
-    g_icons.destroyed += g_icons.destroy(icon) != FALSE;
-    return TRUE;
-}
-
 TEST(ToolBarXP, PaintsWhatItCanAndGivesEverythingBack) {
     Frame* const frame = Frame::Open();
     CToolBarXP& bar = frame->ToolBar();
@@ -393,10 +381,6 @@ TEST(ToolBarXP, PaintsWhatItCanAndGivesEverythingBack) {
     bar.SetButtonStyle(kPlain, TBBS_INDETERMINATE);
     bar.SendMessage(TB_SETHOTITEM, kChecked);
 
-    ImportPatch patch;
-    g_icons = {};
-    g_icons.get = patch.Redirect("comctl32.dll", "ImageList_GetIcon", &CountedGetIcon);
-    g_icons.destroy = patch.Redirect("user32.dll", "DestroyIcon", &CountedDestroyIcon);
     const auto images = bar.SendMessage(TB_GETIMAGELIST);
     for (const bool withImages : {true, false}) {
         bar.SendMessage(TB_SETIMAGELIST, 0, withImages ? images : 0);
@@ -406,12 +390,9 @@ TEST(ToolBarXP, PaintsWhatItCanAndGivesEverythingBack) {
             const GdiLedger ledger;
             bar.Invalidate(FALSE);
             bar.UpdateWindow();
-            EXPECT_EQ(ledger.Unreturned(), "");
-            EXPECT_EQ(ledger.Faults(), "");
+            EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
         }
     }
-    EXPECT_GT(g_icons.made, 0);
-    EXPECT_EQ(g_icons.made, g_icons.destroyed);
     frame->DestroyWindow();
 }
 
