@@ -18,8 +18,7 @@ namespace {
 HWND WaitForGallery() {
     for (int look = 0; look < 500; ++look) {
         HWND window = nullptr;
-        while ((window = ::FindWindowExA(nullptr, window, nullptr, "TintKit Gallery")) !=
-               nullptr) {
+        while ((window = ::FindWindowExA(nullptr, window, nullptr, "TintKit Gallery")) != nullptr) {
             DWORD process = 0;
             ::GetWindowThreadProcessId(window, &process);
             if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))

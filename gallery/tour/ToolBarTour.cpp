@@ -106,7 +106,8 @@ void TourBars(PictureTour& tour, const std::string& suffix) {
 
     MoveMouseToLeftOf(ButtonRect(tour.ToolBar(), kSkin)); // its text is in the status bar
     PictureSheet status(1, 2);
-    status.Add("The text of the button under the mouse, and panes", automation::WaitUntilSteady(tour.StatusBar()));
+    status.Add("The text of the button under the mouse, and panes",
+               automation::WaitUntilSteady(tour.StatusBar()));
     tour.Write(status.Compose(), "statusbar" + suffix);
     tour.ParkMouse();
 

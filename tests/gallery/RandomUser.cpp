@@ -71,8 +71,7 @@ std::string Describe(HWND window) {
     char name[80] = "";
     ::GetClassNameA(window, name, sizeof name);
     return std::string(name) + " \"" + (::IsWindow(window) ? "" : "gone") + "\" " +
-           std::to_string(::GetDlgCtrlID(window)) +
-           (::IsWindowVisible(window) ? "" : ", hidden") +
+           std::to_string(::GetDlgCtrlID(window)) + (::IsWindowVisible(window) ? "" : ", hidden") +
            (::IsWindowEnabled(window) ? "" : ", disabled");
 }
 
@@ -82,8 +81,9 @@ std::string DescribeState(HWND gallery) {
     state.cbSize = sizeof state;
     ::GetGUIThreadInfo(::GetWindowThreadProcessId(gallery, nullptr), &state);
     return "state " + std::to_string(state.flags) + "\n  active: " + Describe(state.hwndActive) +
-           "\n  focus: " + Describe(state.hwndFocus) + "\n  capture: " +
-           Describe(state.hwndCapture) + "\n  menu's owner: " + Describe(state.hwndMenuOwner) +
+           "\n  focus: " + Describe(state.hwndFocus) +
+           "\n  capture: " + Describe(state.hwndCapture) +
+           "\n  menu's owner: " + Describe(state.hwndMenuOwner) +
            "\n  foreground: " + Describe(::GetForegroundWindow()) + "\n";
 }
 
@@ -106,13 +106,13 @@ void RandomUser::Act() {
         Deed deed;
         int weight;
     } deeds[] = {
-        {&RandomUser::Move, 30},        {&RandomUser::ClickSomewhere, 22},
-        {&RandomUser::RightClick, 4},   {&RandomUser::DoubleClick, 3},
-        {&RandomUser::Drag, 6},         {&RandomUser::Wheel, 4},
+        {&RandomUser::Move, 30},          {&RandomUser::ClickSomewhere, 22},
+        {&RandomUser::RightClick, 4},     {&RandomUser::DoubleClick, 3},
+        {&RandomUser::Drag, 6},           {&RandomUser::Wheel, 4},
         {&RandomUser::TypeSomething, 30}, {&RandomUser::OpenMenu, 8},
-        {&RandomUser::Command, 6},      {&RandomUser::ChangeScheme, 1},
-        {&RandomUser::TellOfChange, 2}, {&RandomUser::Resize, 3},
-        {&RandomUser::DragToolBar, 1},  {&RandomUser::OpenMenusFrame, 1},
+        {&RandomUser::Command, 6},        {&RandomUser::ChangeScheme, 1},
+        {&RandomUser::TellOfChange, 2},   {&RandomUser::Resize, 3},
+        {&RandomUser::DragToolBar, 1},    {&RandomUser::OpenMenusFrame, 1},
     };
     int sum = 0;
     for (const auto& entry : deeds)
@@ -169,10 +169,10 @@ void RandomUser::Wheel() {
 }
 
 void RandomUser::TypeSomething() {
-    constexpr WORD keys[] = {VK_TAB,   VK_TAB,    VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP,   VK_DOWN,
-                             VK_LEFT,  VK_RIGHT,  VK_PRIOR, VK_NEXT,   VK_HOME,   VK_END,  VK_DELETE,
-                             VK_BACK,  VK_F4,     VK_F6,    VK_F8,     VK_F10,    VK_APPS, VK_MENU,
-                             'A',      'C',       'D',      'P',       'V',       '1',     '5'};
+    constexpr WORD keys[] = {VK_TAB,  VK_TAB,   VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP,   VK_DOWN,
+                             VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT,   VK_HOME,   VK_END,  VK_DELETE,
+                             VK_BACK, VK_F4,    VK_F6,    VK_F8,     VK_F10,    VK_APPS, VK_MENU,
+                             'A',     'C',      'D',      'P',       'V',       '1',     '5'};
     constexpr WORD modifiers[] = {0, 0, 0, 0, VK_SHIFT, VK_CONTROL};
     const WORD key = keys[Below(std::size(keys))];
     const WORD modifier = modifiers[Below(std::size(modifiers))];
@@ -193,14 +193,10 @@ void RandomUser::Command() {
     constexpr struct {
         WORD first, last;
     } ranges[] = {
-        {ID_SCENE_FIRST, ID_SCENE_LAST},
-        {ID_SCENE_FIRST, ID_SCENE_FIRST + 9},
-        {ID_DOCK_FIRST, ID_DOCK_LAST},
-        {ID_VIEW_SKIN, ID_VIEW_SKIN},
-        {ID_VIEW_TOOLBAR, ID_VIEW_TOOLBAR},
-        {ID_VIEW_STATUS_BAR, ID_VIEW_STATUS_BAR},
-        {ID_EDIT_COPY, ID_EDIT_COPY},
-        {ID_EDIT_PASTE, ID_EDIT_PASTE},
+        {ID_SCENE_FIRST, ID_SCENE_LAST},    {ID_SCENE_FIRST, ID_SCENE_FIRST + 9},
+        {ID_DOCK_FIRST, ID_DOCK_LAST},      {ID_VIEW_SKIN, ID_VIEW_SKIN},
+        {ID_VIEW_TOOLBAR, ID_VIEW_TOOLBAR}, {ID_VIEW_STATUS_BAR, ID_VIEW_STATUS_BAR},
+        {ID_EDIT_COPY, ID_EDIT_COPY},       {ID_EDIT_PASTE, ID_EDIT_PASTE},
         {ID_APP_ABOUT, ID_APP_ABOUT},
     };
     const auto& range = ranges[Below(std::size(ranges))];
@@ -217,7 +213,8 @@ void RandomUser::TellOfChange() {
     constexpr UINT messages[] = {WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_DISPLAYCHANGE,
                                  WM_SETTINGCHANGE, WM_CANCELMODE};
     const UINT message = messages[Below(std::size(messages))];
-    const LPARAM size = MAKELPARAM(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    const LPARAM size =
+        MAKELPARAM(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     Post(message, message == WM_DISPLAYCHANGE ? 32 : 0, message == WM_DISPLAYCHANGE ? size : 0);
 }
 
@@ -225,7 +222,8 @@ void RandomUser::Resize() {
     const HWND window = AnyWindow();
     const int width = Below(900);
     const int height = Below(700);
-    Note("resize " + TextOf(window) + " to " + std::to_string(width) + "x" + std::to_string(height));
+    Note("resize " + TextOf(window) + " to " + std::to_string(width) + "x" +
+         std::to_string(height));
     ::SetWindowPos(window, nullptr, 0, 0, width, height,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
 }
