@@ -4,6 +4,7 @@
 
 #include "tests/gallery/RandomUser.h"
 
+#include <afxpriv.h>
 #include <afxres.h>
 
 #include <array>
@@ -315,6 +316,38 @@ void RandomUser::Settle() {
         ::SendMessageA(m_gallery, WM_COMMAND, ID_VIEW_STATUS_BAR, 0);
     ::SetForegroundWindow(m_gallery);
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0); // where no window manager tells it
+}
+
+automation::Picture RandomUser::PictureOf(const char* scene) {
+    const HWND contents = ::GetDlgItem(m_gallery, AFX_IDW_PANE_FIRST);
+    const HWND scenes = ::GetDlgItem(contents, IDC_SCENES);
+    const LRESULT index = ::SendMessageA(scenes, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(scene));
+    ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCENE_FIRST + index), 0);
+    HWND page = nullptr;
+    while ((page = ::FindWindowExA(contents, page, reinterpret_cast<LPCSTR>(WC_DIALOG), nullptr)) !=
+           nullptr) {
+        ::SetDlgItemTextA(page, IDC_MENUS_CHOSEN, "");
+        if (::IsDlgButtonChecked(page, IDC_BITMAP_DISABLE) == BST_CHECKED)
+            ::SendDlgItemMessageA(page, IDC_BITMAP_DISABLE, BM_CLICK, 0, 0);
+    }
+    ::SendMessageA(contents, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(scenes), TRUE);
+    ::SendMessageA(scenes, LB_SETTOPINDEX, 0, 0);
+    // Whether keys or the mouse were used last shows in marks of focus and underlined letters.
+    ::SendMessageA(m_gallery, WM_CHANGEUISTATE,
+                   MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+    ::SendMessageA(m_gallery, WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE, 0);
+    RECT window = {};
+    ::GetWindowRect(m_gallery, &window);
+    MoveTo({window.left + 1, window.bottom - 2});
+    ::PostMessageA(m_gallery, WM_NULL, 0, 0); // so that the loop goes idle and updates the bars
+    automation::WaitUntilSteady(m_gallery);
+    // The system keeps one request to be told at a time: a pointer this fast can lose one.
+    ::EnumChildWindows(
+        m_gallery,
+        [](HWND window, LPARAM) { return ::PostMessageA(window, WM_MOUSELEAVE, 0, 0); }, 0);
+    ::RedrawWindow(m_gallery, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    return automation::WaitUntilSteady(m_gallery);
 }
 
 // ---- Parts --------------------------------------------------------------------------------------

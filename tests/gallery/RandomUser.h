@@ -3,9 +3,10 @@
 
 #include <windows.h>
 
-#include <deque>
 #include <random>
 #include <string>
+
+#include "automation/Picture.h"
 
 /// A user who tries everything: mouse, keys, menus, and what the system does meanwhile.  The same seed
 /// gives the same inputs.
@@ -24,6 +25,10 @@ public:
 
     /// Brings the gallery into the state that it is compared in: colours, bars, focus.
     void Settle();
+
+    /// What the whole window looks like with one of the pages whose state can be put back: "Colours",
+    /// "Bitmap buttons", "Menus".
+    automation::Picture PictureOf(const char* scene);
 
     /// The last inputs, one a line.
     static std::string LastInputs();
