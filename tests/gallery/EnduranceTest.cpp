@@ -48,9 +48,10 @@ protected:
     }
 };
 
-/// Keeps the commands of system menus that open a program of the system's.
-LRESULT CALLBACK DropSystemCommands(int code, WPARAM remove, LPARAM data) {
+/// Keeps away the commands of system menus that open a program of the system's.
+LRESULT CALLBACK WatchMessages(int code, WPARAM remove, LPARAM data) {
     MSG& message = *reinterpret_cast<MSG*>(data);
+    RandomUser::OnMessage(message);
     if (code == HC_ACTION && message.message == WM_SYSCOMMAND && message.wParam >= SC_TASKLIST)
         message.message = WM_NULL; // Wine's "About Wine" among them
     return ::CallNextHookEx(nullptr, code, remove, data);
@@ -170,7 +171,7 @@ TEST(Endurance, TheGalleryIsAsBeforeAfterTenThousandInputs) {
     gallery->ShowWindow(SW_SHOWNORMAL);
 
     const DWORD thread = ::GetCurrentThreadId();
-    const HHOOK hook = ::SetWindowsHookExA(WH_GETMESSAGE, &DropSystemCommands, nullptr, thread);
+    const HHOOK hook = ::SetWindowsHookExA(WH_GETMESSAGE, &WatchMessages, nullptr, thread);
     std::string surprises, traces, changedPictures;
     const char* const scenes[] = {"Menus", "Bitmap buttons", "Colours"};
     std::thread driver([&] {

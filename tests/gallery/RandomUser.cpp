@@ -8,6 +8,7 @@
 #include <afxres.h>
 
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <iterator>
 #include <vector>
@@ -25,6 +26,9 @@ namespace {
 /// Text that a crash handler can print: it is there before the crash and takes no memory.
 std::array<char[80], 16> g_lastInputs;
 unsigned g_inputs = 0;
+
+constexpr WORD kMark = VK_F24; // a key that nobody uses: what was sent before it has been handled
+std::atomic<int> g_marks = 0;
 
 void PrintLastInputs() {
     const HANDLE stream = ::GetStdHandle(STD_ERROR_HANDLE);
@@ -273,6 +277,7 @@ void RandomUser::OpenMenusFrame() {
 // ---- Back to rest -------------------------------------------------------------------------------
 
 void RandomUser::CalmDown() {
+    WaitUntilHandled();
     constexpr int most = 40;
     for (int look = 0; look <= most; ++look) {
         if (look == most)
@@ -281,8 +286,9 @@ void RandomUser::CalmDown() {
         bool open = IsBusy();
         for (const HWND window : shown) {
             open = open || IsMenu(window);
-            if (IsDialog(window) && TextOf(window) != "About TintKit Gallery")
-                m_surprises += "\"" + TextOf(window) + "\"\n";
+            const std::string title = TextOf(window); // empty while it comes or goes
+            if (IsDialog(window) && !title.empty() && title != "About TintKit Gallery")
+                m_surprises += "\"" + title + "\"\n";
         }
         if (!open && look > 1)
             break;
@@ -300,6 +306,7 @@ void RandomUser::CalmDown() {
                    SWP_NOSIZE | SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
     ::SetForegroundWindow(m_gallery);
     ExpectAnswer();
+    WaitUntilHandled();
 }
 
 void RandomUser::Settle() {
@@ -344,8 +351,8 @@ automation::Picture RandomUser::PictureOf(const char* scene) {
     automation::WaitUntilSteady(m_gallery);
     // The system keeps one request to be told at a time: a pointer this fast can lose one.
     ::EnumChildWindows(
-        m_gallery,
-        [](HWND window, LPARAM) { return ::PostMessageA(window, WM_MOUSELEAVE, 0, 0); }, 0);
+        m_gallery, [](HWND window, LPARAM) { return ::PostMessageA(window, WM_MOUSELEAVE, 0, 0); },
+        0);
     ::RedrawWindow(m_gallery, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     return automation::WaitUntilSteady(m_gallery);
 }
@@ -399,6 +406,20 @@ void RandomUser::ExpectAnswer() {
     std::fflush(stderr);
     PrintLastInputs();
     ::TerminateProcess(::GetCurrentProcess(), 4);
+}
+
+void RandomUser::OnMessage(const MSG& message) {
+    if ((message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) &&
+        message.wParam == kMark)
+        ++g_marks;
+}
+
+void RandomUser::WaitUntilHandled() {
+    const int before = g_marks;
+    automation::TypeKey(kMark);
+    for (int look = 0; look < 500 && g_marks == before; ++look)
+        ::Sleep(10);
+    ExpectAnswer();
 }
 
 void RandomUser::Note(const std::string& input) {

@@ -30,6 +30,9 @@ public:
     /// "Bitmap buttons", "Menus".
     automation::Picture PictureOf(const char* scene);
 
+    /// For a WH_GETMESSAGE hook of the gallery's thread: tells the user how far its input was handled.
+    static void OnMessage(const MSG& message);
+
     /// The last inputs, one a line.
     static std::string LastInputs();
 
@@ -61,6 +64,7 @@ private:
     void MoveTo(POINT point);
     void Post(UINT message, WPARAM wParam, LPARAM lParam = 0);
     void ExpectAnswer();
+    void WaitUntilHandled();
     void Note(const std::string& input);
 
     HWND m_gallery;
