@@ -139,17 +139,26 @@ constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
 // The two as Windows 10 has them.
-constexpr Essence kHighContrastBlack = {
-    kBlack,               kWhite, kBlack,           kWhite, RGB(128, 128, 128), RGB(192, 192, 192),
-    RGB(63, 242, 63),     RGB(26, 235, 255), kBlack, kBlack, kWhite,            RGB(255, 255, 0)};
+constexpr Essence kHighContrastBlack = {kBlack,
+                                        kWhite,
+                                        kBlack,
+                                        kWhite,
+                                        RGB(128, 128, 128),
+                                        RGB(192, 192, 192),
+                                        RGB(63, 242, 63),
+                                        RGB(26, 235, 255),
+                                        kBlack,
+                                        kBlack,
+                                        kWhite,
+                                        RGB(255, 255, 0)};
 constexpr Essence kHighContrastWhite = {
-    kWhite,        kBlack,          kWhite, kBlack, RGB(128, 128, 128), RGB(192, 192, 192),
-    RGB(96, 0, 0), RGB(55, 0, 110), kWhite, kWhite, kBlack,             RGB(0, 0, 159)};
+    kWhite,          kBlack, kWhite, kBlack, RGB(128, 128, 128), RGB(192, 192, 192), RGB(96, 0, 0),
+    RGB(55, 0, 110), kWhite, kWhite, kBlack, RGB(0, 0, 159)};
 
-constexpr Essence kSlate = {
-    RGB(24, 32, 48),    RGB(226, 232, 240), RGB(38, 50, 72),  RGB(226, 232, 240),
-    RGB(84, 100, 128),  RGB(70, 86, 112),   RGB(140, 152, 172), RGB(88, 148, 216),
-    RGB(12, 18, 28),    RGB(20, 28, 44),    RGB(226, 232, 240), RGB(140, 190, 255)};
+constexpr Essence kSlate = {RGB(24, 32, 48),    RGB(226, 232, 240), RGB(38, 50, 72),
+                            RGB(226, 232, 240), RGB(84, 100, 128),  RGB(70, 86, 112),
+                            RGB(140, 152, 172), RGB(88, 148, 216),  RGB(12, 18, 28),
+                            RGB(20, 28, 44),    RGB(226, 232, 240), RGB(140, 190, 255)};
 
 } // namespace
 

@@ -10,7 +10,8 @@ LPCTSTR CColorsPage::GetTitle() const {
 }
 
 LPCTSTR CColorsPage::GetDescription() const {
-    return "Text colours on what lies under them, derived from the system's. Beside each its contrast "
+    return "Text colours on what lies under them, derived from the system's. Beside each its "
+           "contrast "
            "ratio, from 1 to 21. The toolbar changes the scheme.";
 }
 

@@ -7,12 +7,6 @@
 #include "gallery/GalleryLog.h"
 #include "gallery/GalleryOptions.h"
 
-namespace {
-
-CGalleryApp theApp;
-
-} // namespace
-
 BOOL CGalleryApp::InitInstance() {
     CWinApp::InitInstance();
 

@@ -32,7 +32,7 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
 }
 
 BOOL CGalleryDlg::CreateIn(CFrameWnd& frame) {
-    if (!Create(IDD_GALLERY, &frame))
+    if (!Create(IDD_GALLERY, &frame) || !CreatePages())
         return FALSE;
     SetDlgCtrlID(AFX_IDW_PANE_FIRST); // what the bars leave is its place
     CRect client;
@@ -56,9 +56,14 @@ BOOL CGalleryDlg::OnInitDialog() {
     m_titleFont.CreateFontIndirect(&font);
     m_title.SetFont(&m_titleFont);
 
+    return TRUE;
+}
+
+BOOL CGalleryDlg::CreatePages() {
     for (const auto& page : m_pages) {
         m_scenes.AddString(page->GetTitle());
-        page->CreateOver(*GetDlgItem(IDC_PAGE), *this);
+        if (!page->CreateOver(*GetDlgItem(IDC_PAGE), *this))
+            return FALSE;
     }
     ShowScene(0);
     return TRUE;

@@ -40,6 +40,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    BOOL CreatePages();
+
     std::vector<std::unique_ptr<CGalleryPage>> m_pages; ///< in the order of the list
     int m_scene = 0;
     CSize m_naturalSize;

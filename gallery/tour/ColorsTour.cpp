@@ -28,8 +28,10 @@ void TourColors(PictureTour& tour) {
     PictureSheet sheet(2, 1);
     WPARAM command = ID_SCHEME_FIRST;
     for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
-        ::SendMessageA(tour.Gallery(), WM_COMMAND, command++, 0);
+        // Posted, so that the window's loop goes idle afterwards and the status bar tells the scheme.
+        ::PostMessageA(tour.Gallery(), WM_COMMAND, command++, 0);
         tour.ParkMouse();
+        automation::WaitUntilSteady(tour.Gallery());
         sheet.Add(scheme.name, PictureWithMenu(tour));
     }
     ::SendMessageA(tour.Gallery(), WM_COMMAND, ID_SCHEME_FIRST, 0);

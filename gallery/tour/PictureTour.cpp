@@ -68,6 +68,7 @@ void PictureTour::Run() {
         ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCHEME_FIRST + scheme), 0);
         VisitScenes(automation::ColorSchemes()[scheme].name);
     }
+    automation::WaitUntilSteady(m_gallery);
     ChooseScene("Colours");
     TourColors(*this);
 }

@@ -48,9 +48,10 @@ protected:
     }
 };
 
-/// Keeps the commands of system menus that open a program of the system's.
-LRESULT CALLBACK DropSystemCommands(int code, WPARAM remove, LPARAM data) {
+/// Keeps away the commands of system menus that open a program of the system's.
+LRESULT CALLBACK WatchMessages(int code, WPARAM remove, LPARAM data) {
     MSG& message = *reinterpret_cast<MSG*>(data);
+    RandomUser::OnMessage(message);
     if (code == HC_ACTION && message.message == WM_SYSCOMMAND && message.wParam >= SC_TASKLIST)
         message.message = WM_NULL; // Wine's "About Wine" among them
     return ::CallNextHookEx(nullptr, code, remove, data);
@@ -136,6 +137,19 @@ std::string Compare(const std::map<HWND, Traces>& before, const std::map<HWND, T
     return text;
 }
 
+/// Empty when the pictures are the same; else both are written into the folder of temporary files.
+std::string DifferenceOf(const automation::Picture& before, const automation::Picture& after,
+                         const std::string& scene) {
+    if (before == after)
+        return "";
+    char folder[MAX_PATH] = "";
+    ::GetTempPathA(sizeof folder, folder);
+    const std::string path = folder + ("endurance-" + scene);
+    automation::WritePng(before, path + "-before.png");
+    automation::WritePng(after, path + "-after.png");
+    return scene + ": see " + path + "-before.png and -after.png\n";
+}
+
 int FromEnvironment(const char* name, int otherwise) {
     const char* const value = std::getenv(name);
     return value == nullptr ? otherwise : std::atoi(value);
@@ -157,18 +171,24 @@ TEST(Endurance, TheGalleryIsAsBeforeAfterTenThousandInputs) {
     gallery->ShowWindow(SW_SHOWNORMAL);
 
     const DWORD thread = ::GetCurrentThreadId();
-    const HHOOK hook = ::SetWindowsHookExA(WH_GETMESSAGE, &DropSystemCommands, nullptr, thread);
-    std::string surprises, traces;
+    const HHOOK hook = ::SetWindowsHookExA(WH_GETMESSAGE, &WatchMessages, nullptr, thread);
+    std::string surprises, traces, changedPictures;
+    const char* const scenes[] = {"Menus", "Bitmap buttons", "Colours"};
     std::thread driver([&] {
         RandomUser user(window, seed);
         user.Settle();
         const auto before = TracesOfAllWindows(thread);
+        std::vector<automation::Picture> pictures;
+        for (const char* scene : scenes)
+            pictures.push_back(user.PictureOf(scene));
         for (int i = 0; i < inputs; ++i) {
             user.Act();
             if (i % 250 == 249)
                 user.CalmDown();
         }
         user.Settle();
+        for (std::size_t i = 0; i < pictures.size(); ++i)
+            changedPictures += DifferenceOf(pictures[i], user.PictureOf(scenes[i]), scenes[i]);
         traces = Compare(before, TracesOfAllWindows(thread));
         surprises = user.Surprises();
         ::PostMessageA(window, CEndlessGallery::kEnd, 0, 0);
@@ -179,7 +199,9 @@ TEST(Endurance, TheGalleryIsAsBeforeAfterTenThousandInputs) {
 
     EXPECT_EQ(surprises, "") << "dialogs that nobody asked for";
     EXPECT_EQ(traces, "");
-    EXPECT_EQ(ledger.Unreturned(), "");
+    EXPECT_EQ(changedPictures, "");
+    // The memory that is kept for the shadow of the next popup.
+    EXPECT_EQ(ledger.Unreturned(), "CreateCompatibleDC x1\nCreateDIBSection x1\n");
     EXPECT_EQ(ledger.Faults(), "");
     EXPECT_TRUE(TracesOfAllWindows(thread).empty());
     std::printf("%d GDI objects made\n", ledger.Made());

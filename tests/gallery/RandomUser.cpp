@@ -4,9 +4,11 @@
 
 #include "tests/gallery/RandomUser.h"
 
+#include <afxpriv.h>
 #include <afxres.h>
 
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <iterator>
 #include <vector>
@@ -24,6 +26,9 @@ namespace {
 /// Text that a crash handler can print: it is there before the crash and takes no memory.
 std::array<char[80], 16> g_lastInputs;
 unsigned g_inputs = 0;
+
+constexpr WORD kMark = VK_F24; // a key that nobody uses: what was sent before it has been handled
+std::atomic<int> g_marks = 0;
 
 void PrintLastInputs() {
     const HANDLE stream = ::GetStdHandle(STD_ERROR_HANDLE);
@@ -71,8 +76,7 @@ std::string Describe(HWND window) {
     char name[80] = "";
     ::GetClassNameA(window, name, sizeof name);
     return std::string(name) + " \"" + (::IsWindow(window) ? "" : "gone") + "\" " +
-           std::to_string(::GetDlgCtrlID(window)) +
-           (::IsWindowVisible(window) ? "" : ", hidden") +
+           std::to_string(::GetDlgCtrlID(window)) + (::IsWindowVisible(window) ? "" : ", hidden") +
            (::IsWindowEnabled(window) ? "" : ", disabled");
 }
 
@@ -82,8 +86,9 @@ std::string DescribeState(HWND gallery) {
     state.cbSize = sizeof state;
     ::GetGUIThreadInfo(::GetWindowThreadProcessId(gallery, nullptr), &state);
     return "state " + std::to_string(state.flags) + "\n  active: " + Describe(state.hwndActive) +
-           "\n  focus: " + Describe(state.hwndFocus) + "\n  capture: " +
-           Describe(state.hwndCapture) + "\n  menu's owner: " + Describe(state.hwndMenuOwner) +
+           "\n  focus: " + Describe(state.hwndFocus) +
+           "\n  capture: " + Describe(state.hwndCapture) +
+           "\n  menu's owner: " + Describe(state.hwndMenuOwner) +
            "\n  foreground: " + Describe(::GetForegroundWindow()) + "\n";
 }
 
@@ -106,13 +111,13 @@ void RandomUser::Act() {
         Deed deed;
         int weight;
     } deeds[] = {
-        {&RandomUser::Move, 30},        {&RandomUser::ClickSomewhere, 22},
-        {&RandomUser::RightClick, 4},   {&RandomUser::DoubleClick, 3},
-        {&RandomUser::Drag, 6},         {&RandomUser::Wheel, 4},
+        {&RandomUser::Move, 30},          {&RandomUser::ClickSomewhere, 22},
+        {&RandomUser::RightClick, 4},     {&RandomUser::DoubleClick, 3},
+        {&RandomUser::Drag, 6},           {&RandomUser::Wheel, 4},
         {&RandomUser::TypeSomething, 30}, {&RandomUser::OpenMenu, 8},
-        {&RandomUser::Command, 6},      {&RandomUser::ChangeScheme, 1},
-        {&RandomUser::TellOfChange, 2}, {&RandomUser::Resize, 3},
-        {&RandomUser::DragToolBar, 1},  {&RandomUser::OpenMenusFrame, 1},
+        {&RandomUser::Command, 6},        {&RandomUser::ChangeScheme, 1},
+        {&RandomUser::TellOfChange, 2},   {&RandomUser::Resize, 3},
+        {&RandomUser::DragToolBar, 1},    {&RandomUser::OpenMenusFrame, 1},
     };
     int sum = 0;
     for (const auto& entry : deeds)
@@ -169,10 +174,10 @@ void RandomUser::Wheel() {
 }
 
 void RandomUser::TypeSomething() {
-    constexpr WORD keys[] = {VK_TAB,   VK_TAB,    VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP,   VK_DOWN,
-                             VK_LEFT,  VK_RIGHT,  VK_PRIOR, VK_NEXT,   VK_HOME,   VK_END,  VK_DELETE,
-                             VK_BACK,  VK_F4,     VK_F6,    VK_F8,     VK_F10,    VK_APPS, VK_MENU,
-                             'A',      'C',       'D',      'P',       'V',       '1',     '5'};
+    constexpr WORD keys[] = {VK_TAB,  VK_TAB,   VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP,   VK_DOWN,
+                             VK_LEFT, VK_RIGHT, VK_PRIOR, VK_NEXT,   VK_HOME,   VK_END,  VK_DELETE,
+                             VK_BACK, VK_F4,    VK_F6,    VK_F8,     VK_F10,    VK_APPS, VK_MENU,
+                             'A',     'C',      'D',      'P',       'V',       '1',     '5'};
     constexpr WORD modifiers[] = {0, 0, 0, 0, VK_SHIFT, VK_CONTROL};
     const WORD key = keys[Below(std::size(keys))];
     const WORD modifier = modifiers[Below(std::size(modifiers))];
@@ -193,14 +198,10 @@ void RandomUser::Command() {
     constexpr struct {
         WORD first, last;
     } ranges[] = {
-        {ID_SCENE_FIRST, ID_SCENE_LAST},
-        {ID_SCENE_FIRST, ID_SCENE_FIRST + 9},
-        {ID_DOCK_FIRST, ID_DOCK_LAST},
-        {ID_VIEW_SKIN, ID_VIEW_SKIN},
-        {ID_VIEW_TOOLBAR, ID_VIEW_TOOLBAR},
-        {ID_VIEW_STATUS_BAR, ID_VIEW_STATUS_BAR},
-        {ID_EDIT_COPY, ID_EDIT_COPY},
-        {ID_EDIT_PASTE, ID_EDIT_PASTE},
+        {ID_SCENE_FIRST, ID_SCENE_LAST},    {ID_SCENE_FIRST, ID_SCENE_FIRST + 9},
+        {ID_DOCK_FIRST, ID_DOCK_LAST},      {ID_VIEW_SKIN, ID_VIEW_SKIN},
+        {ID_VIEW_TOOLBAR, ID_VIEW_TOOLBAR}, {ID_VIEW_STATUS_BAR, ID_VIEW_STATUS_BAR},
+        {ID_EDIT_COPY, ID_EDIT_COPY},       {ID_EDIT_PASTE, ID_EDIT_PASTE},
         {ID_APP_ABOUT, ID_APP_ABOUT},
     };
     const auto& range = ranges[Below(std::size(ranges))];
@@ -217,7 +218,8 @@ void RandomUser::TellOfChange() {
     constexpr UINT messages[] = {WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_DISPLAYCHANGE,
                                  WM_SETTINGCHANGE, WM_CANCELMODE};
     const UINT message = messages[Below(std::size(messages))];
-    const LPARAM size = MAKELPARAM(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    const LPARAM size =
+        MAKELPARAM(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     Post(message, message == WM_DISPLAYCHANGE ? 32 : 0, message == WM_DISPLAYCHANGE ? size : 0);
 }
 
@@ -225,7 +227,8 @@ void RandomUser::Resize() {
     const HWND window = AnyWindow();
     const int width = Below(900);
     const int height = Below(700);
-    Note("resize " + TextOf(window) + " to " + std::to_string(width) + "x" + std::to_string(height));
+    Note("resize " + TextOf(window) + " to " + std::to_string(width) + "x" +
+         std::to_string(height));
     ::SetWindowPos(window, nullptr, 0, 0, width, height,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
 }
@@ -274,6 +277,7 @@ void RandomUser::OpenMenusFrame() {
 // ---- Back to rest -------------------------------------------------------------------------------
 
 void RandomUser::CalmDown() {
+    WaitUntilHandled();
     constexpr int most = 40;
     for (int look = 0; look <= most; ++look) {
         if (look == most)
@@ -282,8 +286,9 @@ void RandomUser::CalmDown() {
         bool open = IsBusy();
         for (const HWND window : shown) {
             open = open || IsMenu(window);
-            if (IsDialog(window) && TextOf(window) != "About TintKit Gallery")
-                m_surprises += "\"" + TextOf(window) + "\"\n";
+            const std::string title = TextOf(window); // empty while it comes or goes
+            if (IsDialog(window) && !title.empty() && title != "About TintKit Gallery")
+                m_surprises += "\"" + title + "\"\n";
         }
         if (!open && look > 1)
             break;
@@ -301,6 +306,7 @@ void RandomUser::CalmDown() {
                    SWP_NOSIZE | SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
     ::SetForegroundWindow(m_gallery);
     ExpectAnswer();
+    WaitUntilHandled();
 }
 
 void RandomUser::Settle() {
@@ -317,6 +323,38 @@ void RandomUser::Settle() {
         ::SendMessageA(m_gallery, WM_COMMAND, ID_VIEW_STATUS_BAR, 0);
     ::SetForegroundWindow(m_gallery);
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0); // where no window manager tells it
+}
+
+automation::Picture RandomUser::PictureOf(const char* scene) {
+    const HWND contents = ::GetDlgItem(m_gallery, AFX_IDW_PANE_FIRST);
+    const HWND scenes = ::GetDlgItem(contents, IDC_SCENES);
+    const LRESULT index = ::SendMessageA(scenes, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(scene));
+    ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCENE_FIRST + index), 0);
+    HWND page = nullptr;
+    while ((page = ::FindWindowExA(contents, page, reinterpret_cast<LPCSTR>(WC_DIALOG), nullptr)) !=
+           nullptr) {
+        ::SetDlgItemTextA(page, IDC_MENUS_CHOSEN, "");
+        if (::IsDlgButtonChecked(page, IDC_BITMAP_DISABLE) == BST_CHECKED)
+            ::SendDlgItemMessageA(page, IDC_BITMAP_DISABLE, BM_CLICK, 0, 0);
+    }
+    ::SendMessageA(contents, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(scenes), TRUE);
+    ::SendMessageA(scenes, LB_SETTOPINDEX, 0, 0);
+    // Whether keys or the mouse were used last shows in marks of focus and underlined letters.
+    ::SendMessageA(m_gallery, WM_CHANGEUISTATE,
+                   MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
+    ::SendMessageA(m_gallery, WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE, 0);
+    RECT window = {};
+    ::GetWindowRect(m_gallery, &window);
+    MoveTo({window.left + 1, window.bottom - 2});
+    ::PostMessageA(m_gallery, WM_NULL, 0, 0); // so that the loop goes idle and updates the bars
+    automation::WaitUntilSteady(m_gallery);
+    // The system keeps one request to be told at a time: a pointer this fast can lose one.
+    ::EnumChildWindows(
+        m_gallery, [](HWND window, LPARAM) { return ::PostMessageA(window, WM_MOUSELEAVE, 0, 0); },
+        0);
+    ::RedrawWindow(m_gallery, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    return automation::WaitUntilSteady(m_gallery);
 }
 
 // ---- Parts --------------------------------------------------------------------------------------
@@ -368,6 +406,20 @@ void RandomUser::ExpectAnswer() {
     std::fflush(stderr);
     PrintLastInputs();
     ::TerminateProcess(::GetCurrentProcess(), 4);
+}
+
+void RandomUser::OnMessage(const MSG& message) {
+    if ((message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) &&
+        message.wParam == kMark)
+        ++g_marks;
+}
+
+void RandomUser::WaitUntilHandled() {
+    const int before = g_marks;
+    automation::TypeKey(kMark);
+    for (int look = 0; look < 500 && g_marks == before; ++look)
+        ::Sleep(10);
+    ExpectAnswer();
 }
 
 void RandomUser::Note(const std::string& input) {

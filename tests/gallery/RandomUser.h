@@ -3,9 +3,10 @@
 
 #include <windows.h>
 
-#include <deque>
 #include <random>
 #include <string>
+
+#include "automation/Picture.h"
 
 /// A user who tries everything: mouse, keys, menus, and what the system does meanwhile.  The same seed
 /// gives the same inputs.
@@ -24,6 +25,13 @@ public:
 
     /// Brings the gallery into the state that it is compared in: colours, bars, focus.
     void Settle();
+
+    /// What the whole window looks like with one of the pages whose state can be put back: "Colours",
+    /// "Bitmap buttons", "Menus".
+    automation::Picture PictureOf(const char* scene);
+
+    /// For a WH_GETMESSAGE hook of the gallery's thread: tells the user how far its input was handled.
+    static void OnMessage(const MSG& message);
 
     /// The last inputs, one a line.
     static std::string LastInputs();
@@ -56,6 +64,7 @@ private:
     void MoveTo(POINT point);
     void Post(UINT message, WPARAM wParam, LPARAM lParam = 0);
     void ExpectAnswer();
+    void WaitUntilHandled();
     void Note(const std::string& input);
 
     HWND m_gallery;

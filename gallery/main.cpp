@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/GalleryApp.h"
+
+namespace {
+
+CGalleryApp theApp;
+
+} // namespace
