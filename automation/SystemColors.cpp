@@ -94,6 +94,63 @@ std::vector<SystemColor> Warm() {
     };
 }
 
+/// All the colours of a scheme from the few that make it.
+struct Essence {
+    COLORREF window, text, face, faceText, shadow, light, grey, highlight, highlightText, caption,
+        captionText, link;
+};
+
+std::vector<SystemColor> FromEssence(const Essence& e) {
+    return {
+        {COLOR_WINDOW, e.window},
+        {COLOR_WINDOWTEXT, e.text},
+        {COLOR_WINDOWFRAME, e.text},
+        {COLOR_BTNFACE, e.face},
+        {COLOR_BTNTEXT, e.faceText},
+        {COLOR_BTNSHADOW, e.shadow},
+        {COLOR_BTNHIGHLIGHT, e.light},
+        {COLOR_3DDKSHADOW, e.faceText},
+        {COLOR_3DLIGHT, e.light},
+        {COLOR_GRAYTEXT, e.grey},
+        {COLOR_HIGHLIGHT, e.highlight},
+        {COLOR_HIGHLIGHTTEXT, e.highlightText},
+        {COLOR_MENU, e.face},
+        {COLOR_MENUTEXT, e.faceText},
+        {COLOR_MENUBAR, e.face},
+        {COLOR_MENUHILIGHT, e.highlight},
+        {COLOR_ACTIVECAPTION, e.caption},
+        {COLOR_CAPTIONTEXT, e.captionText},
+        {COLOR_GRADIENTACTIVECAPTION, e.caption},
+        {COLOR_INACTIVECAPTION, e.face},
+        {COLOR_INACTIVECAPTIONTEXT, e.faceText},
+        {COLOR_GRADIENTINACTIVECAPTION, e.face},
+        {COLOR_ACTIVEBORDER, e.face},
+        {COLOR_INACTIVEBORDER, e.face},
+        {COLOR_APPWORKSPACE, e.shadow},
+        {COLOR_BACKGROUND, e.window},
+        {COLOR_SCROLLBAR, e.face},
+        {COLOR_INFOBK, e.window},
+        {COLOR_INFOTEXT, e.text},
+        {COLOR_HOTLIGHT, e.link},
+    };
+}
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+// The two as Windows 10 has them.
+constexpr Essence kHighContrastBlack = {
+    kBlack,               kWhite, kBlack,           kWhite, RGB(128, 128, 128), RGB(192, 192, 192),
+    RGB(63, 242, 63),     RGB(26, 235, 255), kBlack, kBlack, kWhite,            RGB(255, 255, 0)};
+constexpr Essence kHighContrastWhite = {
+    kWhite,        kBlack,          kWhite, kBlack, RGB(128, 128, 128), RGB(192, 192, 192),
+    RGB(96, 0, 0), RGB(55, 0, 110), kWhite, kWhite, kBlack,             RGB(0, 0, 159)};
+
+constexpr Essence kSlate = {
+    RGB(24, 32, 48),    RGB(226, 232, 240), RGB(38, 50, 72),  RGB(226, 232, 240),
+    RGB(84, 100, 128),  RGB(70, 86, 112),   RGB(140, 152, 172), RGB(88, 148, 216),
+    RGB(12, 18, 28),    RGB(20, 28, 44),    RGB(226, 232, 240), RGB(140, 190, 255)};
+
 } // namespace
 
 const std::vector<ColorScheme>& ColorSchemes() {
@@ -101,6 +158,9 @@ const std::vector<ColorScheme>& ColorSchemes() {
         {"default", {}},
         {"high-contrast-dark", HighContrastDark()},
         {"warm", Warm()},
+        {"high-contrast-black", FromEssence(kHighContrastBlack)},
+        {"high-contrast-white", FromEssence(kHighContrastWhite)},
+        {"slate", FromEssence(kSlate)},
     };
     return schemes;
 }

@@ -21,7 +21,7 @@ struct ColorScheme {
 };
 
 /// The schemes that the gallery and the tests show: "default" (changes nothing), "high-contrast-dark",
-/// "warm".
+/// "warm", "high-contrast-black", "high-contrast-white", "slate".
 const std::vector<ColorScheme>& ColorSchemes();
 
 /// The scheme of that name; null when there is none.

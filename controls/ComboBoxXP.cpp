@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/ComboBoxXP.h"
 
+#include <afxcmn.h>
 #include <afxext.h>
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include "controls/DrawButton.h"
 #include "controls/HostDC.h"
 #include "draw/Selectors.h"
+#include "draw/Skin.h"
 
 namespace {
 
@@ -36,7 +38,10 @@ BEGIN_MESSAGE_MAP(CComboBoxXP, CComboBox)
     ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CComboBoxXP::OnListOpensOrCloses)
 END_MESSAGE_MAP()
 
-CComboBoxXP::~CComboBoxXP() = default;
+CComboBoxXP::~CComboBoxXP() {
+    if (m_edit.m_hWnd != nullptr)
+        m_edit.UnsubclassWindow(); // the field stays with its combo box, which may live on
+}
 
 // ---- Set-up -------------------------------------------------------------------------------------
 
@@ -56,7 +61,8 @@ void CComboBoxXP::PreSubclassWindow() {
     SetUp();
     if (GetItemHeight(-1) <= 0) // a combo box that is just being created; Create does the rest
         return;
-    // Messages do not come here yet, so the list gets its height directly and the field keeps its own.
+    // Messages do not come here yet: what OnWindowPosChanging makes of any resize is asked for directly.
+    // The field keeps the height that the dialog's font gives it.
     CRect window;
     GetWindowRect(window);
     SetWindowPos(nullptr, 0, 0, window.Width(), HeightWithList(), SWP_NOMOVE | SWP_NOZORDER);
@@ -139,10 +145,13 @@ UINT CComboBoxXP::OnGetDlgCode() {
 
 BOOL CComboBoxXP::PreTranslateMessage(MSG* message) {
     if (message->message == WM_KEYDOWN && IsOnControlBar()) {
+        const HWND window = m_hWnd;
         if (message->wParam == VK_RETURN)
-            ::SendMessageA(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), 0), 0);
+            ::SendMessageA(::GetParent(window), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), 0), 0);
         else if (message->wParam == VK_ESCAPE)
             LeaveBar();
+        if (CWnd::FromHandlePermanent(window) != this)
+            return TRUE; // the command has destroyed the combo box, perhaps this object as well
     }
     return CComboBox::PreTranslateMessage(message);
 }
@@ -184,6 +193,8 @@ void CComboBoxXP::OnMouseMove(UINT, CPoint) {
 }
 
 void CComboBoxXP::OnMouseLeave() {
+    if (!tint::IsSkinEnabled(m_hWnd))
+        Default(); // the system's own combo box has a hot state too
     m_hover.OnMouseLeave(m_hWnd);
 }
 
@@ -197,6 +208,10 @@ BOOL CComboBoxXP::OnListOpensOrCloses() {
 // ---- Painting -----------------------------------------------------------------------------------
 
 void CComboBoxXP::OnPaint() {
+    if (!tint::IsSkinEnabled(m_hWnd)) {
+        Default();
+        return;
+    }
     CRect client;
     GetClientRect(client);
     CRect arrow = client;

@@ -28,6 +28,8 @@
 /// Height: unlike with the system's own, the height given to Create or to a resize is that of the closed
 /// field.  The list shows GetVisibleRows() rows (fewer when it has fewer items).  In a dialog the field
 /// keeps the height that the dialog's font gives it, until it is resized.
+///
+/// tint::EnableSkin switches between this look and the system's own; heights and keys stay as they are.
 class CComboBoxXP : public CComboBox {
 public:
     ~CComboBoxXP() override;

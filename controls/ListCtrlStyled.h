@@ -47,6 +47,8 @@
 /// An item without styles costs 24 bytes (and what a growing vector holds in reserve), the first style
 /// in its row about 110 more, each further one about 80.  Cells that look alike share one GDI font.
 ///
+/// tint::EnableSkin(list, false) shows the plain list; the styles stay and come back with the skin.
+///
 /// While a selected item is painted it is not selected for the list view, which would draw its own
 /// highlight; neither the message map of the parent nor the update region notice.  (A parent that
 /// looks at WM_NOTIFY before the framework reflects it sees the list view's side: keys and changes.)

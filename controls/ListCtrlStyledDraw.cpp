@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "draw/Skin.h"
+
 using tint::ListStyleLevels;
 
 // ---- Stages of a paint --------------------------------------------------------------------------
@@ -36,6 +38,8 @@ LRESULT CListCtrlStyled::OnControlPrePaint() {
     m_rowFont.Forget();
     m_cellFont.Forget();
     GiveSelectionBack(); // that a paint broken off has kept
+    if (!tint::IsSkinEnabled(m_hWnd))
+        return CDRF_DODEFAULT; // and no other stage follows
     m_colors = {static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTCOLOR, 0, 0)),
                 static_cast<COLORREF>(DefWindowProc(LVM_GETTEXTBKCOLOR, 0, 0))};
     return CDRF_NOTIFYITEMDRAW;

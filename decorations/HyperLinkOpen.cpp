@@ -61,7 +61,12 @@ void CHyperLink::OnClicked() {
         return;
     }
     m_overLink = FALSE;
-    const INT_PTR result = OpenUrl(m_url, SW_SHOW);
+    // The shell may run a message loop, and handlers there may change the target or end the dialog.
+    const HWND window = m_hWnd;
+    const CString url = m_url;
+    const INT_PTR result = OpenUrl(url, SW_SHOW);
+    if (FromHandlePermanent(window) != this)
+        return;
     m_visited = result > 32;
     if (m_visited) {
         SetVisited(TRUE);
@@ -72,22 +77,23 @@ void CHyperLink::OnClicked() {
 }
 
 INT_PTR CHyperLink::OpenUrl(const char* url, int showCmd) {
-    const INT_PTR opened = m_shell->Open(url, showCmd);
+    tint::LinkShell& shell = *m_shell; // the link itself may be gone once a target was tried
+    const INT_PTR opened = shell.Open(url, showCmd);
     if (opened > 32)
         return opened;
 
     tint::LinkShell::Text fileClass;
     tint::LinkShell::Text command;
-    if (GetRegistryDefault(HKEY_CLASSES_ROOT, ".htm", fileClass) != ERROR_SUCCESS)
+    if (shell.GetRegistryDefault(HKEY_CLASSES_ROOT, ".htm", fileClass) != ERROR_SUCCESS)
         return opened;
     const CString key = CString(fileClass) + "\\shell\\open\\command";
     if (key.GetLength() >= static_cast<int>(sizeof fileClass) ||
-        GetRegistryDefault(HKEY_CLASSES_ROOT, key, command) != ERROR_SUCCESS)
+        shell.GetRegistryDefault(HKEY_CLASSES_ROOT, key, command) != ERROR_SUCCESS)
         return opened;
     const CString line = CommandLineFor(command, url);
     if (line.IsEmpty())
         return opened;
-    return static_cast<INT_PTR>(m_shell->Run(line, showCmd));
+    return static_cast<INT_PTR>(shell.Run(line, showCmd));
 }
 
 void CHyperLink::ReportError(int code) {

@@ -38,7 +38,9 @@ public:
     // The forms that are not overridden stay reachable.
     using CDC::DrawText;
     using CDC::DrawTextEx;
+    using CDC::Escape;
     using CDC::ExtTextOut;
+    using CDC::PtVisible;
     using CDC::TabbedTextOut;
     using CDC::TextOut;
 

@@ -16,6 +16,9 @@ void RequestTracking(HWND window, DWORD flags) {
 void CMouseHoverTracker::Attach(HWND owner, WORD options) {
     m_owner = owner;
     m_options = options;
+    // A window destroyed under the mouse is never left; the object may have another one by now.
+    m_tracked = nullptr;
+    m_hover = false;
 }
 
 bool CMouseHoverTracker::OnMouseMove(HWND window) {

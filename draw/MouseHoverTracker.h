@@ -17,6 +17,7 @@ public:
         kRecalcFrame = 2, ///< make the owner recalculate and repaint its non-client frame
     };
 
+    /// Begins with a window, which is not hot.
     /// @param owner    the window whose state this is; not owned
     /// @param options  bits of Option
     void Attach(HWND owner, WORD options);

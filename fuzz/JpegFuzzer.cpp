@@ -4,6 +4,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "image/CxMemFile.h"
 #include "image/ImageJPG.h"
+#include "image/Resample.h"
 
 namespace {
 
@@ -23,8 +24,10 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Choose(direct, data[0]);
     const bool decoded = direct.DecodeJpeg(&stream);
     fuzz::ReadWhole(direct); // after a failure too: the image may be partly filled
-    if (decoded)
-        direct.ApplyOrientation();
+    if (decoded && direct.ApplyOrientation()) {
+        direct.Resample(5, 7, tint::kBilinear, tint::kOverflowRepeat); // a long row is refused
+        fuzz::ReadWhole(direct);
+    }
 
     IsImage image;
     Choose(image, data[0]);

@@ -3,6 +3,7 @@
 
 #include "gallery/BitmapButtonsPage.h"
 #include "gallery/ButtonsPage.h"
+#include "gallery/ColorsPage.h"
 #include "gallery/CombosPage.h"
 #include "gallery/GalleryLog.h"
 #include "gallery/GlyphsPage.h"
@@ -27,6 +28,7 @@ CGalleryDlg::CGalleryDlg() : CDialog(IDD_GALLERY) {
     m_pages.push_back(std::make_unique<CLinksPage>());
     m_pages.push_back(std::make_unique<CBitmapButtonsPage>());
     m_pages.push_back(std::make_unique<CRichTextPage>());
+    m_pages.push_back(std::make_unique<CColorsPage>());
 }
 
 BOOL CGalleryDlg::CreateIn(CFrameWnd& frame) {
@@ -69,6 +71,10 @@ void CGalleryDlg::OnSceneChosen() {
 }
 
 void CGalleryDlg::ShowScene(int scene) {
+    // Or a hidden control would keep the focus.
+    const CWnd* const focus = GetFocus();
+    if (focus != nullptr && GetPage().IsChild(focus))
+        m_scenes.SetFocus();
     GetPage().ShowWindow(SW_HIDE);
     m_scene = (scene + GetSceneCount()) % GetSceneCount();
     m_scenes.SetCurSel(m_scene);
@@ -82,5 +88,5 @@ BOOL CGalleryDlg::PreTranslateMessage(MSG* message) {
     // Or the dialog would take the keys of the frame's accelerators for itself.
     CFrameWnd* const frame = GetParentFrame();
     return (frame != nullptr && frame->PreTranslateMessage(message)) ||
-           CDialog::PreTranslateMessage(message);
+           (!CGalleryPage::IsForHiddenControl(*message) && CDialog::PreTranslateMessage(message));
 }

@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "controls/ButtonXP.h"
 #include "draw/DrawUtil.h"
 #include "draw/Skin.h"
 #include "gallery/resource.h"
@@ -14,7 +15,21 @@ constexpr UINT ArrowOf(int command) {
     return static_cast<WORD>(-command);
 }
 
-constexpr int kComboPlace = 3; // among the toolbar's buttons, with a gap on each side
+class CAboutDlg : public CDialog {
+public:
+    explicit CAboutDlg(CWnd* parent) : CDialog(IDD_ABOUT, parent) {}
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, IDOK, m_ok);
+    }
+
+private:
+    CButtonXP m_ok;
+};
+
+constexpr int kComboPlace = 2; // among the toolbar's buttons: after the arrows
 constexpr int kComboWidth = 140;
 
 constexpr UINT kDockBars[] = {AFX_IDW_DOCKBAR_TOP, AFX_IDW_DOCKBAR_LEFT, AFX_IDW_DOCKBAR_RIGHT,
@@ -83,6 +98,7 @@ BOOL CGalleryFrame::CreateToolBar() {
         return FALSE;
     for (int scene = 0; scene < m_contents.GetSceneCount(); ++scene)
         m_sceneCombo.AddString(m_contents.GetSceneTitle(scene));
+    m_sceneCombo.SetVisibleRows(m_contents.GetSceneCount());
     return m_toolBar.InsertControl(kComboPlace, m_sceneCombo);
 }
 
@@ -194,12 +210,18 @@ BOOL CALLBACK SwitchSkin(HWND window, LPARAM enabled) {
     return TRUE;
 }
 
+void SwitchSkinOfAll(HWND window, LPARAM enabled) {
+    ::EnumChildWindows(window, &SwitchSkin, enabled);
+    SwitchSkin(window, enabled);
+}
+
 } // namespace
 
 void CGalleryFrame::OnSkin() {
     const LPARAM enabled = !tint::IsSkinEnabled(m_hWnd);
-    ::EnumChildWindows(m_hWnd, &SwitchSkin, enabled);
-    SwitchSkin(m_hWnd, enabled);
+    SwitchSkinOfAll(m_hWnd, enabled);
+    if (!IsChild(&m_toolBar)) // it floats
+        SwitchSkinOfAll(m_toolBar, enabled);
 }
 
 void CGalleryFrame::OnUpdateSkin(CCmdUI* item) {
@@ -250,5 +272,5 @@ void CGalleryFrame::OnUpdateDock(CCmdUI* item) {
 }
 
 void CGalleryFrame::OnAbout() {
-    CDialog(IDD_ABOUT, this).DoModal();
+    CAboutDlg(this).DoModal();
 }

@@ -19,5 +19,9 @@ BOOL CGalleryPage::PreTranslateMessage(MSG* message) {
     CFrameWnd* const frame = GetParentFrame();
     if (frame != nullptr && frame->PreTranslateMessage(message))
         return TRUE;
-    return CDialog::PreTranslateMessage(message);
+    return !IsForHiddenControl(*message) && CDialog::PreTranslateMessage(message);
+}
+
+bool CGalleryPage::IsForHiddenControl(const MSG& message) {
+    return !::IsWindowVisible(message.hwnd);
 }

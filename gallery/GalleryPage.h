@@ -17,6 +17,11 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override;
 
+    /// A key may still be on its way to a control when its page is hidden.  No dialog may handle it: the
+    /// system's search for the next control, or for the one with that letter, does not end when it
+    /// starts in a hidden page.
+    static bool IsForHiddenControl(const MSG& message);
+
 protected:
     explicit CGalleryPage(UINT dialogId) : m_dialogId(dialogId) {}
 

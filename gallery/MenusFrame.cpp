@@ -18,9 +18,11 @@ BOOL CMenusFrame::CreateFor(CWnd& owner) {
     const CRect rect(CPoint(place.left + 40, place.top + 60), CSize(380, 300));
     // What is disabled and checked is set here, not by update handlers.
     m_bAutoMenuEnable = FALSE;
-    return Create(
-        AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW)),
-        "Menus", WS_OVERLAPPEDWINDOW | WS_VISIBLE, rect, &owner, MAKEINTRESOURCE(IDR_MENUS_FRAME));
+    const LPCTSTR windowClass =
+        AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW),
+                            AfxGetApp()->LoadIcon(IDR_GALLERY));
+    return Create(windowClass, "Menus", WS_OVERLAPPEDWINDOW | WS_VISIBLE, rect, &owner,
+                  MAKEINTRESOURCE(IDR_MENUS_FRAME));
 }
 
 int CMenusFrame::OnCreate(LPCREATESTRUCT created) {

@@ -4,6 +4,7 @@
 #include <afxext.h>
 
 #include "menus/SkinnedMenus.h"
+#include "menus/ToolBarXP.h"
 
 /// A frame window whose menus are skinned: CSkinnedMenus around the base class is all it takes.
 ///
@@ -25,6 +26,6 @@ protected:
 private:
     void SetStates();
 
-    CToolBar m_toolbar; ///< its images are what the menus show
+    CToolBarXP m_toolbar; ///< its images are what the menus show
     HIMAGELIST m_images = nullptr;
 };

@@ -13,6 +13,7 @@
 #define IDD_LINKS 107
 #define IDD_BITMAP_BUTTONS 108
 #define IDD_RICH_TEXT 109
+#define IDD_COLORS 111
 
 #define IDB_STRIP_1 200
 #define IDB_STRIP_3 201
@@ -108,6 +109,9 @@
 // The page "Rich text"
 #define IDC_RTF 1700
 
+// The page "Colours"
+#define IDC_COLOR_TABLE 1850
+
 // The frame window: menu, toolbar, accelerators and title; the panes of its status bar
 #define IDR_GALLERY_FRAME 120
 #define IDR_SCHEMES 121
@@ -122,6 +126,6 @@
 #define ID_SCENE_FIRST 32910
 #define ID_SCENE_LAST 32939
 #define ID_SCHEME_FIRST 32940
-#define ID_SCHEME_LAST 32942
+#define ID_SCHEME_LAST 32945
 #define ID_DOCK_FIRST 32950
 #define ID_DOCK_LAST 32953

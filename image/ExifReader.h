@@ -90,7 +90,6 @@ public:
     void SetMotorolaOrder(bool motorola) { motorolaOrder = motorola; }
 
     const ExifInfo& Info() const { return *info; }
-    bool OwnsInfo() const { return m_ownInfo != nullptr; }
     /// Text of the last failure or oddity, "" if there was none.
     const char* LastError() const { return lastError; }
     int32_t SectionCount() const { return sectionCount; }

@@ -85,6 +85,22 @@ bool IsImage::BeginPicture(uint32_t width, uint32_t height, uint32_t bitCount, u
     return true;
 }
 
+/// Makes a picture of zeros with the settings, palette and resolution of `source` in another size.
+bool IsImage::CreateLike(const IsImage& source, uint32_t width, uint32_t height) {
+    CopyInfo(source);
+    if (!CreateImage(width, height, source.BitCount(), source.Type()))
+        return false;
+    header.biClrUsed = source.header.biClrUsed; // an image may use less than its depth can address
+    header.biXPelsPerMeter = source.header.biXPelsPerMeter;
+    header.biYPelsPerMeter = source.header.biYPelsPerMeter;
+    info.orientation = source.info.orientation;
+    info.bits = RowPointer(0);
+    StoreHeader();
+    if (PaletteEntries() > 0)
+        memcpy(Palette(), source.Palette(), PaletteBytes());
+    return true;
+}
+
 bool IsImage::DestroyImage() {
     if (info.ghostOf)
         return false;
@@ -103,8 +119,12 @@ bool IsImage::DestroyImage() {
     return true;
 }
 
+bool IsImage::SharesBuffers(const IsImage& other) const {
+    return (dib && dib == other.dib) || (sideBuffer && sideBuffer == other.sideBuffer);
+}
+
 void IsImage::Ghost(IsImage* source) {
-    if (!source || source == this || (dib && !info.ghostOf && source->dib == dib))
+    if (!source || source == this || (!info.ghostOf && SharesBuffers(*source)))
         return; // a view of itself, directly or through its own ghost, would own nothing any more
     DestroyImage();
     header = source->header;
@@ -117,7 +137,7 @@ void IsImage::Ghost(IsImage* source) {
 bool IsImage::Transfer(IsImage& source) {
     if (&source == this)
         return true;
-    if ((dib && source.dib == dib) || !DestroyImage())
+    if (SharesBuffers(source) || !DestroyImage())
         return false;
     header = source.header;
     info = source.info;
@@ -157,7 +177,7 @@ bool IsImage::Copy(const IsImage& source) {
 }
 
 void IsImage::CopyInfo(const IsImage& source) {
-    if (dib)
+    if (dib || info.ghostOf)
         return;
     info = source.info;
     // What describes the source's own block would leave an empty image pointing into it.

@@ -120,7 +120,7 @@ public:
     /// @return false with this image unchanged when it is a ghost or memory is out
     bool Copy(const IsImage& source);
     /// Takes over the settings of `source` (type, transparency, quality, resolution, format values)
-    /// while this image is empty; does nothing otherwise.
+    /// while this image is empty; does nothing otherwise, nor for a ghost.
     void CopyInfo(const IsImage& source);
     /// Reverses the order of the rows in place.  @return false for an empty image
     bool FlipRows();
@@ -286,6 +286,8 @@ private:
     template <class Codec>
     bool DecodeWith(bool (Codec::*decode)(CxFile*), const char* failure, CxFile* stream);
     bool ReadPackedDib(const uint8_t* data, size_t size);
+    bool CreateLike(const IsImage& source, uint32_t width, uint32_t height);
+    bool SharesBuffers(const IsImage& other) const;
     bool TransposePixels();
     void LoadPath(const char* path);
     void MakePlaceholder();

@@ -25,7 +25,7 @@ bool IsImage::SetPixelIndex(uint32_t x, uint32_t y, uint8_t index) {
         return false;
     const uint32_t perByte = 8 / BitCount();
     const uint32_t shift = (perByte - 1 - x % perByte) * BitCount();
-    const uint32_t mask = (PaletteEntries() - 1) << shift;
+    const uint32_t mask = ((1u << BitCount()) - 1) << shift; // a palette may be shorter than that
     uint8_t& byte = row[x / perByte];
     byte = static_cast<uint8_t>((byte & ~mask) | static_cast<uint32_t>(index) << shift);
     return true;

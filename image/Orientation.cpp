@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -77,20 +78,13 @@ void MirrorColumns(IsImage& image) {
 
 bool IsImage::TransposePixels() {
     IsImage turned;
-    turned.CopyInfo(*this);
-    if (!turned.CreateImage(Height(), Width(), BitCount(), info.type)) {
+    if (!turned.CreateLike(*this, Height(), Width())) {
         SetErrorText(turned.LastErrorText());
         return false;
     }
-    turned.header.biClrUsed = header.biClrUsed; // an image may use less than its depth can address
-    turned.header.biXPelsPerMeter = header.biYPelsPerMeter;
-    turned.header.biYPelsPerMeter = header.biXPelsPerMeter;
-    turned.info.xDpi = info.yDpi;
-    turned.info.yDpi = info.xDpi;
-    turned.info.bits = turned.RowPointer(0);
+    std::swap(turned.header.biXPelsPerMeter, turned.header.biYPelsPerMeter);
+    std::swap(turned.info.xDpi, turned.info.yDpi);
     turned.StoreHeader();
-    if (Palette())
-        memcpy(turned.Palette(), Palette(), PaletteBytes());
     switch (BitCount()) {
     case 24:
         Transpose(turned, *this, CopyPixel<3>);

@@ -223,17 +223,11 @@ bool IsImage::Resample(int32_t newWidth, int32_t newHeight, int32_t interpolatio
     }
 
     IsImage resized;
-    resized.CopyInfo(*this);
-    if (!resized.CreateImage(static_cast<uint32_t>(newWidth), static_cast<uint32_t>(newHeight),
-                             BitCount(), Type())) {
+    if (!resized.CreateLike(*this, static_cast<uint32_t>(newWidth),
+                            static_cast<uint32_t>(newHeight))) {
         SetErrorText(resized.LastErrorText());
         return false;
     }
-    std::copy_n(Palette(), PaletteEntries(), resized.Palette());
-    resized.info.orientation = info.orientation; // CopyInfo leaves out what describes the pixels
-    resized.header.biXPelsPerMeter = header.biXPelsPerMeter;
-    resized.header.biYPelsPerMeter = header.biYPelsPerMeter;
-    resized.StoreHeader();
     try {
         refusal = ResamplePixels(*this, resized, {interpolation, overflow, !disableAveraging},
                                  FastestResampleOps());

@@ -6,13 +6,6 @@
 namespace tint {
 namespace {
 
-bool IsToolbar(HWND window) {
-    char name[32] = "";
-    ::GetClassNameA(window, name, sizeof name);
-    return _mbsicmp(reinterpret_cast<const unsigned char*>(name),
-                    reinterpret_cast<const unsigned char*>(TOOLBARCLASSNAMEA)) == 0;
-}
-
 CImgDesc ImageOf(HWND toolbar, UINT command) {
     TBBUTTONINFOA button = {};
     button.cbSize = sizeof button;
@@ -26,6 +19,13 @@ CImgDesc ImageOf(HWND toolbar, UINT command) {
 }
 
 } // namespace
+
+bool IsToolbar(HWND window) {
+    char name[32] = "";
+    ::GetClassNameA(window, name, sizeof name);
+    return _mbsicmp(reinterpret_cast<const unsigned char*>(name),
+                    reinterpret_cast<const unsigned char*>(TOOLBARCLASSNAMEA)) == 0;
+}
 
 CommandImages::CommandImages(CWnd& window) {
     const auto* const frame = dynamic_cast<CFrameWnd*>(&window);

@@ -8,6 +8,9 @@
 
 namespace tint {
 
+/// Whether a window is a toolbar, by its class.
+bool IsToolbar(HWND window);
+
 /// The images of commands, as the toolbars of a frame window have them.
 class CommandImages {
 public:

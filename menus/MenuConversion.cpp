@@ -5,6 +5,7 @@
 #include "draw/Selectors.h"
 #include "menus/CommandImages.h"
 #include "menus/Contained.h"
+#include "menus/MenuBar.h"
 #include "menus/MenuItemData.h"
 #include "menus/MenuItemXP.h"
 #include "menus/MenuRecords.h"
@@ -44,6 +45,9 @@ public:
     void MakeOwnerDrawn() { Write(MIIM_FTYPE, OwnerDrawnType(), MenuItemData(0)); }
     void MakeOwnerDrawn(MenuItemData data) {
         Write(MIIM_FTYPE | MIIM_DATA, OwnerDrawnType(), data);
+    }
+    void MakeSystemDrawn() {
+        Write(MIIM_FTYPE, m_info.fType & ~UINT{MFT_OWNERDRAW | MFT_BITMAP}, MenuItemData(0));
     }
     void SetData(MenuItemData data) { Write(MIIM_DATA, 0, data); }
 
@@ -169,9 +173,8 @@ bool IsSystemMenuOfActiveChild(CWnd* window, HMENU menu) {
 void CMenuXP::UpdateMenuBar(CWnd* window) {
     if (!IsMenuXPEnabled(window))
         return;
-    const HMENU menu = ::GetMenu(window->m_hWnd); // a child window answers its identifier
-    if (::IsMenu(menu))
-        ConvertMenu(window, menu, true, true);
+    if (const HMENU bar = tint::MenuBarOf(window->m_hWnd))
+        ConvertMenu(window, bar, true, true);
 }
 
 void CMenuXP::ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar) {
@@ -191,4 +194,13 @@ void CMenuXP::ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar) {
         }
         Conversion(menu, menuBar, images).Run();
     });
+}
+
+void CMenuXP::RestoreMenu(HMENU menu) {
+    const int count = ::GetMenuItemCount(menu);
+    for (int position = 0; position < count; ++position) {
+        MenuItem item(menu, position);
+        if (item.IsRead() && item.IsOwnerDrawn())
+            item.MakeSystemDrawn();
+    }
 }

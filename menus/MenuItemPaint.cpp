@@ -41,20 +41,11 @@ COLORREF Highlight(int luminance, int saturation) {
     return AdjustColorLS(System(COLOR_HIGHLIGHT), luminance, saturation);
 }
 
-/// The user asks for the system's colours as they are, without tints and gradients.
-bool IsHighContrast() {
-    HIGHCONTRASTA contrast = {};
-    contrast.cbSize = sizeof contrast;
-    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
-
 /// Paints one item, a layer after the other.
 class Painter {
 public:
     Painter(const CMenuItemXP& item, CDC& dc, const RECT& rect, const MenuItemState& state)
-        : m_item(item), m_dc(dc), m_rect(rect), m_state(state), m_disabled(item.IsDisabled()),
-          m_highContrast(IsHighContrast()) {}
+        : m_item(item), m_dc(dc), m_rect(rect), m_state(state), m_disabled(item.IsDisabled()) {}
 
     bool Paint() {
         const bool open = m_state.barItem && m_state.selected;
@@ -81,17 +72,11 @@ private:
     void DrawCheckMark();
     void DrawRadioBullet();
 
-    bool IsHighlighted() const {
-        return !(m_state.barItem && m_state.selected) &&
-               (m_state.selected || (m_state.hot && !m_state.inactive));
-    }
-
     COLORREF TextColor() const;
-    COLORREF HighlightFill() const;
     COLORREF CheckedFill() const;
 
     bool HasGradient() const {
-        return !m_highContrast && MenuLook::Get().ShowGradient() && BitsPerPixel() > 8;
+        return MenuLook::Get().ShowGradient() && BitsPerPixel() > 8;
     }
 
     int BitsPerPixel() const {
@@ -115,14 +100,13 @@ private:
     const CRect m_rect;
     const MenuItemState m_state;
     const bool m_disabled;
-    const bool m_highContrast;
     COLORREF m_fill = kNoColor; ///< what lies under a check mark, once it is known
 };
 
 void Painter::DrawBackground() {
     if (m_state.barItem && m_state.selected)
         DrawOpenBarItem();
-    else if (IsHighlighted())
+    else if (m_state.selected || (m_state.hot && !m_state.inactive))
         DrawHighlight();
     else
         DrawResting();
@@ -152,8 +136,6 @@ void Painter::DrawResting() {
         column.right = rest.left = m_rect.left + look.GradientWidth();
         DrawGradient(m_dc, look.GradientStart(), look.GradientEnd(), column);
         m_dc.FillSolidRect(rest, look.GradientEnd());
-    } else if (m_highContrast) {
-        m_dc.FillSolidRect(m_rect, System(COLOR_MENU));
     } else {
         column.right = rest.left = m_rect.left + kFlatColumn;
         m_dc.FillSolidRect(column, Face(20));
@@ -162,7 +144,7 @@ void Painter::DrawResting() {
 }
 
 void Painter::DrawHighlight() {
-    m_fill = HighlightFill();
+    m_fill = m_disabled ? Face(73) : Highlight(70, -57);
     const CPenSelector pen(m_dc, System(COLOR_HIGHLIGHT));
     CBrushSelector brush(m_dc, m_fill);
     if (m_state.barItem) {
@@ -180,31 +162,19 @@ void Painter::DrawHighlight() {
 }
 
 COLORREF Painter::TextColor() const {
-    if (m_highContrast)
-        return System(m_disabled || m_state.inactive ? COLOR_GRAYTEXT
-                      : IsHighlighted()              ? COLOR_HIGHLIGHTTEXT
-                                                     : COLOR_MENUTEXT);
     if (m_state.inactive)
         return System(COLOR_BTNSHADOW);
     return m_disabled ? Face(-18) : System(COLOR_MENUTEXT);
 }
 
-COLORREF Painter::HighlightFill() const {
-    if (m_highContrast)
-        return System(m_disabled ? COLOR_MENU : COLOR_HIGHLIGHT);
-    return m_disabled ? Face(73) : Highlight(70, -57);
-}
-
 COLORREF Painter::CheckedFill() const {
-    if (m_highContrast)
-        return System(IsHighlighted() && !m_disabled ? COLOR_HIGHLIGHT : COLOR_MENU);
     if (m_disabled)
         return Face(73);
     return m_state.selected ? Highlight(50, -50) : Highlight(70, -57);
 }
 
 void Painter::DrawSeparator() {
-    const CPenSelector pen(m_dc, m_highContrast ? System(COLOR_MENUTEXT) : Face(-18));
+    const CPenSelector pen(m_dc, Face(-18));
     const int y = (m_rect.top + m_rect.bottom) / 2;
     m_dc.MoveTo(m_rect.left + kTextLeft, y);
     m_dc.LineTo(m_rect.right - 1, y);
@@ -292,7 +262,7 @@ void Painter::DrawCheckMark() {
 }
 
 void Painter::DrawRadioBullet() {
-    const COLORREF color = m_disabled && !m_highContrast ? Face(-27) : TextColor();
+    const COLORREF color = m_disabled ? Face(-27) : System(COLOR_MENUTEXT);
     const CPenSelector pen(m_dc, color);
     const CBrushSelector brush(m_dc, color);
     const int x = (m_rect.left + 5 + m_rect.left + 5 + kCheckWidth) / 2;

@@ -16,8 +16,7 @@ struct MenuItemState {
     static MenuItemState Of(const DRAWITEMSTRUCT& item);
 };
 
-/// Paints one item, colours from the system's of the moment.  Where the user has asked for high
-/// contrast, they are the system's menu colours as they are, without tints and gradients.
+/// Paints one item, colours from the system's of the moment.
 ///
 /// The menu's font must be selected.  The text colour, background colour and background mode of `dc`
 /// are left changed; everything else is put back.

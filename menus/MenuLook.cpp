@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "menus/MenuLook.h"
 
-#include <afxwin.h>
-
 #include <algorithm>
 
 #include "draw/ColorMarkers.h"

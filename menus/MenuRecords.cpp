@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "menus/MenuRecords.h"
 
+#include "menus/CommandImages.h"
+
 namespace tint {
 namespace {
 
@@ -64,6 +66,8 @@ bool MenuRecords::IsAlive(const CImgDesc& image) const {
     HWND toolbar = nullptr;
     if (!toolbarOfList.Lookup(image.imageList, toolbar))
         return true; // none to ask
+    if (!IsToolbar(toolbar))
+        return false; // the handle is another window's by now
     const LRESULT list = ::SendMessageA(toolbar, TB_GETIMAGELIST, 0, 0);
     return reinterpret_cast<HIMAGELIST>(list) == image.imageList;
 }

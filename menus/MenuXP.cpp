@@ -121,15 +121,16 @@ LRESULT CALLBACK CMenuXP::CallWndProcHook(int code, WPARAM wParam, LPARAM lParam
 // --- Windows ------------------------------------------------------------------------------------
 
 void CMenuXP::EnableMenuXP(CWnd* window, bool on) {
-    const HWND handle = window->GetSafeHwnd();
+    if (window == nullptr)
+        return;
     if (on)
-        ::SetPropA(handle, kEnabledProperty, reinterpret_cast<HANDLE>(INT_PTR{1}));
+        ::SetPropA(window->m_hWnd, kEnabledProperty, reinterpret_cast<HANDLE>(INT_PTR{1}));
     else
-        ::RemovePropA(handle, kEnabledProperty);
+        ::RemovePropA(window->m_hWnd, kEnabledProperty);
 }
 
 bool CMenuXP::IsMenuXPEnabled(const CWnd* window) {
-    return IsEnabled(window->GetSafeHwnd());
+    return window != nullptr && IsEnabled(window->m_hWnd);
 }
 
 CWndMenuXP* CMenuXP::FindMenuWindow(HWND popup, bool lookupOnly) {

@@ -80,6 +80,9 @@ public:
     /// @param enable   false: nothing happens
     /// @param menuBar  it is the menu bar of the window rather than a popup
     static void ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar);
+
+    /// Gives the items of one menu (not of its submenus) back to the system's drawing.
+    static void RestoreMenu(HMENU menu);
     /// @}
 
     /// @name What a window answers for its converted menus

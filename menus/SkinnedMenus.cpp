@@ -1,18 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "menus/SkinnedMenus.h"
 
+#include "draw/Skin.h"
+#include "menus/MenuBar.h"
 #include "menus/MenuState.h"
 
 namespace tint {
+namespace {
+
+/// The user wants the system's colours as they are, which tints and gradients are not.
+bool IsHighContrast() {
+    HIGHCONTRASTA contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+bool IsSkinWanted(HWND window) {
+    return IsSkinEnabled(window) && !IsHighContrast();
+}
+
+} // namespace
 
 MenuSkin::~MenuSkin() {
     Uninstall(); // still there when the object was detached from its window
 }
 
 void MenuSkin::Install(CWnd& window) {
+    if (m_window == nullptr)
+        CMenuXP::InstallHook();
+    else
+        CMenuXP::EnableMenuXP(CWnd::FromHandle(m_window), false); // the object was detached from it
     m_window = window.m_hWnd;
-    CMenuXP::InstallHook();
-    CMenuXP::EnableMenuXP(&window, true);
+    m_skinned = IsSkinWanted(m_window);
+    CMenuXP::EnableMenuXP(&window, m_skinned);
 }
 
 void MenuSkin::Uninstall() {
@@ -23,14 +44,29 @@ void MenuSkin::Uninstall() {
     m_window = nullptr;
 }
 
+void MenuSkin::FollowSwitches(CWnd& window) {
+    if (m_skinned == IsSkinWanted(m_window))
+        return;
+    m_skinned = !m_skinned;
+    CMenuXP::EnableMenuXP(&window, m_skinned);
+    if (m_skinned)
+        CMenuXP::UpdateMenuBar(&window);
+    else
+        CMenuXP::RestoreMenu(MenuBarOf(m_window));
+    ::DrawMenuBar(m_window);
+}
+
 bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam,
                          LRESULT& result) {
     if (message == WM_NCDESTROY) {
         Uninstall();
         return false;
     }
-    if (m_window == nullptr)
+    if (m_window != window.m_hWnd)
         Install(window);
+    if (message == WM_INITMENU || message == WM_SETTINGCHANGE ||
+        (message == skinSwitchMessage && message != 0))
+        FollowSwitches(window);
 
     switch (message) {
     case WM_NCCALCSIZE: // sent before the bar is measured, also when it has changed
@@ -49,7 +85,7 @@ bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lPara
     case WM_MENUCHAR:
         result =
             CMenuXP::OnMenuChar(reinterpret_cast<HMENU>(lParam), LOWORD(wParam), HIWORD(wParam));
-        return result != 0;
+        return m_skinned && result != 0;
     case WM_EXITMENULOOP:
         ::SetRectEmpty(&GetMenuState().openBarItem);
         return false;
@@ -59,11 +95,24 @@ bool MenuSkin::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM lPara
 }
 
 void MenuSkin::AfterMessage(HWND window, UINT message, WPARAM wParam, LPARAM) {
-    if (message != WM_INITMENUPOPUP)
-        return;
-    CWnd* const owner = CWnd::FromHandlePermanent(window);
-    CMenuXP::ConvertMenu(owner, reinterpret_cast<HMENU>(wParam), CMenuXP::IsMenuXPEnabled(owner),
-                         false);
+    switch (message) {
+    case WM_INITMENUPOPUP: {
+        CWnd* const owner = CWnd::FromHandlePermanent(window);
+        const auto popup = reinterpret_cast<HMENU>(wParam);
+        if (CMenuXP::IsMenuXPEnabled(owner))
+            CMenuXP::ConvertMenu(owner, popup, true, false);
+        else
+            CMenuXP::RestoreMenu(popup);
+        break;
+    }
+    case WM_NCPAINT:
+    case WM_NCACTIVATE:
+        if (CMenuXP::IsMenuXPEnabled(CWnd::FromHandlePermanent(window)))
+            FillRestOfMenuBar(window);
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace tint

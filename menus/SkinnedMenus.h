@@ -27,8 +27,10 @@ public:
 private:
     void Install(CWnd& window);
     void Uninstall();
+    void FollowSwitches(CWnd& window);
 
     HWND m_window = nullptr; ///< the window that is skinned; null: none is
+    bool m_skinned = false;  ///< whether its menus are, as both switches stood when last looked at
 };
 
 } // namespace tint
@@ -43,6 +45,9 @@ private:
 /// The base may be a frame window (SDI or MDI), a dialog, or any other window.  Handlers of the window
 /// work as ever; items that WM_INITMENUPOPUP adds or changes are skinned too.  Menus of a child window
 /// are framed while its top-level window is skinned as well.
+///
+/// tint::EnableSkin (draw/Skin.h) turns the skin of the window's menus off and on.  Where the user asks
+/// for high contrast they are the system's own as well: tints of its colours would not have it.
 ///
 /// The skin comes with the window's first message and goes with its last.  When the last such window
 /// of the process has gone, the hook cannot be had again (CMenuXP::InstallHook): a program whose main

@@ -98,7 +98,7 @@ void CToolBarXP::SetOpen(UINT commandId, bool open) {
 void CToolBarXP::OnDropDown(NMHDR* notification, LRESULT* result) {
     const auto* button = reinterpret_cast<const NMTOOLBARA*>(notification);
     const CWnd* owner = GetOwner();
-    const WPARAM command = static_cast<WORD>(-button->iItem);
+    const WPARAM command = static_cast<WORD>(0U - static_cast<UINT>(button->iItem));
     const bool handled = owner != nullptr && ::SendMessageA(owner->m_hWnd, WM_COMMAND, command, 0);
     *result = handled ? TBDDRET_DEFAULT : TBDDRET_TREATPRESSED;
 }

@@ -89,7 +89,7 @@ LRESULT CALLBACK CWndMenuXP::PopupWndProc(HWND window, UINT message, WPARAM wPar
     switch (message) {
     case WM_ERASEBKGND:
         if (popup != nullptr)
-            popup->OnEraseBackground();
+            tint::Contained([popup] { popup->OnEraseBackground(); });
         break;
     case WM_SHOWWINDOW:
         if (wParam == FALSE)
@@ -101,7 +101,9 @@ LRESULT CALLBACK CWndMenuXP::PopupWndProc(HWND window, UINT message, WPARAM wPar
         break;
     case WM_WINDOWPOSCHANGING:
         if (popup != nullptr)
-            popup->OnWindowPosChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
+            tint::Contained([=] {
+                popup->OnWindowPosChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
+            });
         break;
     case WM_NCCALCSIZE: {
         const LRESULT result = callOld();

@@ -92,6 +92,11 @@ private:
             if (fetched == 0 || fetched == -1) {
                 return false;
             }
+            if (::GetCapture() != m_window) {
+                // While it waited, what was sent may have ended the bar.
+                ::DispatchMessage(&msg);
+                return false;
+            }
             switch (msg.message) {
             case WM_MOUSEMOVE:
                 Move(msg.pt);

@@ -5,6 +5,7 @@
 
 #include "BarAccess.h"
 #include "Handles.h"
+#include "MiniDockFrame.h"
 #include "WndAccess.h"
 #include "afxpriv.h"
 
@@ -83,8 +84,13 @@ int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void CControlBar::OnDestroy() {
     if (m_pDockBar != nullptr) {
+        afx::MiniDockFrame* const mini = afx::MiniDockFrame::Of(*this);
         m_pDockBar->Remove(this);
         m_pDockBar = nullptr;
+        if (mini != nullptr) {
+            // Later: the frame may be what is being destroyed.
+            mini->PostMessage(WM_CLOSE);
+        }
     }
     if (m_pDockSite != nullptr) {
         CPtrList& bars = m_pDockSite->m_listControlBars;

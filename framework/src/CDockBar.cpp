@@ -140,7 +140,7 @@ void CDockBar::InsertAt(CControlBar* bar, LPCRECT place) {
 /// One layout that is going on.
 struct CDockBar::Layout {
     struct Item {
-        CControlBar* bar;
+        HWND bar; // the object may be gone once the next one has laid itself out
         CSize size;
         int begin;
     };
@@ -168,12 +168,12 @@ void CDockBar::Layout::Place(const Item& item) const {
     const CPoint at = horizontal ? CPoint(item.begin, across) : CPoint(across, item.begin);
     const CRect place(at, item.size);
     CRect present;
-    item.bar->GetWindowRect(present);
-    ::MapWindowPoints(nullptr, ::GetParent(item.bar->m_hWnd),
+    ::GetWindowRect(item.bar, present);
+    ::MapWindowPoints(nullptr, ::GetParent(item.bar),
                       reinterpret_cast<LPPOINT>(static_cast<LPRECT>(present)), 2);
     if (place != present) {
-        item.bar->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
-                               SWP_NOZORDER | SWP_NOACTIVATE);
+        ::SetWindowPos(item.bar, nullptr, place.left, place.top, place.Width(), place.Height(),
+                       SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 
@@ -201,11 +201,18 @@ void CDockBar::Layout::EndLine() {
 }
 
 void CDockBar::LayOutRow(Layout& layout, const Row& row) const {
-    DWORD mode = afx::DockedMode(layout.horizontal);
+    const DWORD mode = afx::DockedMode(layout.horizontal);
+    const auto standsHere = [this](const CControlBar* bar) {
+        return std::any_of(m_rows.begin(), m_rows.end(), [bar](const Row& present) {
+            return std::any_of(present.begin(), present.end(),
+                               [bar](const Place& place) { return place.bar == bar; });
+        });
+    };
     for (const Place& place : row) {
-        if (!afx::BarAccess::IsShown(*place.bar)) {
+        if (!standsHere(place.bar) || !afx::BarAccess::IsShown(*place.bar)) {
             continue;
         }
+        const HWND window = place.bar->m_hWnd;
         const bool dynamic = (place.bar->m_dwStyle & CBRS_SIZE_DYNAMIC) != 0;
         DWORD barMode = m_floating && dynamic ? LM_HORZ | LM_MRUWIDTH : mode;
         if (layout.commit) {
@@ -217,7 +224,7 @@ void CDockBar::LayOutRow(Layout& layout, const Row& row) const {
         if (!layout.line.empty() && layout.LineLength() + along > layout.length) {
             layout.EndLine();
         }
-        layout.line.push_back({place.bar, size, wish});
+        layout.line.push_back({window, size, wish});
     }
     layout.EndLine();
 }
@@ -232,7 +239,7 @@ CSize CDockBar::CalcDynamicLayout(int, DWORD nMode) {
     layout.horizontal = Horizontal();
     layout.commit = (nMode & LM_COMMIT) != 0;
     layout.length = m_floating ? Unlimited : m_length;
-    // A bar that lays itself out may come to change the rows.
+    // A bar that lays itself out may come to change the rows, or to destroy another bar.
     const std::vector<Row> rows = m_rows;
     for (const Row& row : rows) {
         LayOutRow(layout, row);

@@ -229,12 +229,6 @@ std::vector<HWND> OwnedBy(HWND owner) {
 
 } // namespace
 
-void CFrameWnd::ShowOwnedWindows(BOOL bShow) {
-    for (const HWND window : OwnedBy(m_hWnd)) {
-        ::ShowWindow(window, bShow ? SW_SHOWNA : SW_HIDE);
-    }
-}
-
 BOOL CFrameWnd::InModalState() const {
     return m_modalDepth != 0;
 }

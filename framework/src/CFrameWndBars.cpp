@@ -27,8 +27,12 @@ void CFrameWnd::RecalcLayout(BOOL) {
     }
     m_layingOut = true;
     m_layoutPending = false;
+    const HWND window = m_hWnd;
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
-    m_layingOut = false;
+    // What is laid out may have ended the frame.
+    if (FromHandlePermanent(window) == this) {
+        m_layingOut = false;
+    }
 }
 
 void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {

@@ -151,10 +151,6 @@ void CMDIFrameWnd::MDINext() {
     ::SendMessage(m_client, WM_MDINEXT, 0, FALSE);
 }
 
-void CMDIFrameWnd::MDIPrev() {
-    ::SendMessage(m_client, WM_MDINEXT, 0, TRUE);
-}
-
 void CMDIFrameWnd::MDIRestore(CWnd* pWnd) {
     ::SendMessage(m_client, WM_MDIRESTORE, reinterpret_cast<WPARAM>(afx::WindowOf(pWnd)), 0);
 }
@@ -168,7 +164,7 @@ CMenu* CMDIFrameWnd::MDISetMenu(CMenu* pFrameMenu, CMenu* pWindowMenu) {
 }
 
 void CMDIFrameWnd::MDITile() {
-    MDITile(MDITILE_HORIZONTAL);
+    MDITile(MDITILE_VERTICAL);
 }
 
 void CMDIFrameWnd::MDITile(int nType) {

@@ -144,7 +144,8 @@ void CStatusBar::LayOutPanes() {
 }
 
 void CStatusBar::ShowPane(int index) {
-    const Pane& pane = m_panes[static_cast<std::size_t>(index)];
+    Pane& pane = m_panes[static_cast<std::size_t>(index)];
+    pane.stale = false;
     LPCTSTR const text = (pane.style & SBPS_DISABLED) != 0 ? "" : static_cast<LPCTSTR>(pane.text);
     DefWindowProc(SB_SETTEXT, static_cast<WPARAM>(index) | ControlStyle(pane.style),
                   reinterpret_cast<LPARAM>(text));
@@ -218,11 +219,10 @@ BOOL CStatusBar::SetPaneText(int nIndex, LPCTSTR lpszNewText, BOOL bUpdate) {
     }
     Pane& pane = m_panes[static_cast<std::size_t>(nIndex)];
     const CString text = lpszNewText == nullptr ? "" : lpszNewText;
-    if (pane.text != text) {
-        pane.text = text;
-        if (bUpdate) {
-            ShowPane(nIndex);
-        }
+    pane.stale = pane.stale || pane.text != text;
+    pane.text = text;
+    if (pane.stale && bUpdate) {
+        ShowPane(nIndex);
     }
     return TRUE;
 }

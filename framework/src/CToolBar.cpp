@@ -75,6 +75,8 @@ BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRec
         return FALSE;
     }
     SetOwner(pParentWnd);
+    m_images.DeleteObject(); // those of a control that the bar had before
+    m_imagesModule = nullptr;
     DefWindowProc(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SetSizes(m_buttonSize, m_sizeImage);
     return TRUE;
@@ -95,13 +97,6 @@ void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
         Invalidate();
     }
     m_bDelayedButtonLayout = TRUE;
-}
-
-void CToolBar::SetHeight(int cyHeight) {
-    const int rest = (std::max)(cyHeight - static_cast<int>(m_buttonSize.cy), 0);
-    m_cyTopBorder = rest / 2;
-    m_cyBottomBorder = rest - m_cyTopBorder;
-    SetBorders(GetBorders());
 }
 
 // ---- Buttons ------------------------------------------------------------------------------------
@@ -222,54 +217,6 @@ void CToolBar::SetButtonStyle(int nIndex, UINT nStyle) {
         SetStyleOf(button, nStyle);
         SetButton(nIndex, button);
     }
-}
-
-// ---- Texts --------------------------------------------------------------------------------------
-
-CString CToolBar::GetButtonText(int nIndex) const {
-    TBBUTTON button;
-    const bool found = GetButton(nIndex, button);
-    const auto text = static_cast<std::size_t>(button.iString);
-    return found && text < m_texts.size() ? m_texts[text] : CString();
-}
-
-void CToolBar::GetButtonText(int nIndex, CString& rString) const {
-    rString = GetButtonText(nIndex);
-}
-
-/// The control's number of a text, which it is given if it has none yet; -1 on failure.
-int CToolBar::TextIndex(const CString& text) {
-    const auto known = std::find(m_texts.begin(), m_texts.end(), text);
-    if (known != m_texts.end()) {
-        return static_cast<int>(known - m_texts.begin());
-    }
-    // A list of texts ends with an empty one.
-    CString list = text;
-    list.AppendChar('\0');
-    const auto added = static_cast<int>(
-        DefWindowProc(TB_ADDSTRING, 0, reinterpret_cast<LPARAM>(static_cast<LPCTSTR>(list))));
-    if (added != static_cast<int>(m_texts.size())) {
-        return -1;
-    }
-    m_texts.push_back(text);
-    return added;
-}
-
-BOOL CToolBar::SetButtonText(int nIndex, LPCTSTR lpszText) {
-    TBBUTTON button;
-    if (!GetButton(nIndex, button)) {
-        return FALSE;
-    }
-    const int text = TextIndex(lpszText);
-    if (text == -1) {
-        return FALSE;
-    }
-    // The number cannot be changed in place: the button is put back with another one.
-    button.iString = text;
-    DefWindowProc(TB_DELETEBUTTON, static_cast<WPARAM>(nIndex), 0);
-    m_bDelayedButtonLayout = TRUE;
-    return DefWindowProc(TB_INSERTBUTTON, static_cast<WPARAM>(nIndex),
-                         reinterpret_cast<LPARAM>(&button)) != 0;
 }
 
 // ---- Messages -----------------------------------------------------------------------------------

@@ -285,7 +285,11 @@ void UpdateCommandItems(CWnd* wnd) {
         return;
     }
     // The message goes to the object: it is one for bars and frames of this framework only.
-    ::SendMessage(wnd->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
+    const HWND window = wnd->m_hWnd;
+    ::SendMessage(window, WM_IDLEUPDATECMDUI, TRUE, 0);
+    if (!::IsWindow(window)) {
+        return; // and the object may be gone with it
+    }
     wnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
 }
 

@@ -49,9 +49,11 @@ void afx::MiniDockFrame::RecalcLayout(BOOL) {
 }
 
 void afx::MiniDockFrame::OnClose() {
-    // The bar stays floating and comes back where it was.
     CControlBar* const bar = m_dock.FirstBar();
-    if (bar != nullptr && bar->m_pDockSite != nullptr) {
+    if (bar == nullptr) {
+        DestroyWindow();
+    } else if (bar->m_pDockSite != nullptr) {
+        // The bar stays floating and comes back where it was.
         bar->m_pDockSite->ShowControlBar(bar, FALSE, FALSE);
     }
 }

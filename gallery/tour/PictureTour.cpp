@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+// MFC wants to be the one that includes <windows.h>.
+#include <afxwin.h>
+
 #include "gallery/tour/PictureTour.h"
 
 #include <cstdio>
 #include <filesystem>
-
-#include <afxres.h>
 
 #include "automation/RealInput.h"
 #include "automation/Steady.h"
@@ -28,25 +29,6 @@ HWND WaitForGallery() {
     }
     return nullptr;
 }
-
-/// Flat menu bars, as Windows has them always and Wine when it is asked to.
-class FlatMenus {
-public:
-    FlatMenus() {
-        ::SystemParametersInfoA(SPI_GETFLATMENU, 0, &m_former, 0);
-        Set(TRUE);
-    }
-    ~FlatMenus() { Set(m_former); }
-    FlatMenus(const FlatMenus&) = delete;
-    FlatMenus& operator=(const FlatMenus&) = delete;
-
-private:
-    static void Set(BOOL flat) {
-        ::SystemParametersInfoA(SPI_SETFLATMENU, 0, reinterpret_cast<PVOID>(INT_PTR{flat}), 0);
-    }
-
-    BOOL m_former = FALSE;
-};
 
 } // namespace
 
@@ -81,11 +63,13 @@ void PictureTour::Run() {
     // Where no window manager runs, nobody tells the caption that its window is the active one.
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
     const FlatMenus flatMenus;
-    WPARAM command = ID_SCHEME_FIRST;
-    for (const automation::ColorScheme& scheme : automation::ColorSchemes()) {
-        ::SendMessageA(m_gallery, WM_COMMAND, command++, 0);
-        VisitScenes(scheme.name);
+    constexpr int visited = 3; // schemes; of the others one sheet shows enough
+    for (int scheme = 0; scheme < visited; ++scheme) {
+        ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCHEME_FIRST + scheme), 0);
+        VisitScenes(automation::ColorSchemes()[scheme].name);
     }
+    ChooseScene("Colours");
+    TourColors(*this);
 }
 
 void PictureTour::VisitScenes(const std::string& scheme) {

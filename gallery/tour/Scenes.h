@@ -33,5 +33,8 @@ void TourBitmapButtons(PictureTour& tour, const std::string& suffix);
 /// The rich text.
 void TourRichText(PictureTour& tour, const std::string& suffix);
 
+/// The page of colours and a menu, in all schemes on one sheet.
+void TourColors(PictureTour& tour);
+
 /// The toolbar in each of its states, docked at the top and at the left, and the status bar.
 void TourBars(PictureTour& tour, const std::string& suffix);

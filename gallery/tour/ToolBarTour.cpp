@@ -12,8 +12,8 @@
 
 namespace {
 
-/// The buttons of the toolbar in the order of its resource, the combo box among them.
-enum Button { kPrevious = 0, kCombo = 3, kPaste = 6, kSkin = 8, kSchemes = 10 };
+/// Some buttons of the toolbar, by their index; the combo box takes one.
+enum Button { kPrevious = 0, kPaste = 5, kSkin = 7, kSchemes = 9 };
 
 /// In screen coordinates.
 RECT ButtonRect(HWND toolBar, int index) {
@@ -43,6 +43,14 @@ HWND WaitForMenu() {
         ::Sleep(20);
     }
     return nullptr;
+}
+
+/// The upper part of the gallery window, with what is open over it.
+automation::Picture UpperPart(const PictureTour& tour, int height) {
+    RECT rect = {};
+    ::GetWindowRect(tour.Gallery(), &rect);
+    rect.bottom = rect.top + height;
+    return automation::CaptureScreen(rect);
 }
 
 void TourStates(PictureTour& tour, const std::string& suffix) {
@@ -79,14 +87,31 @@ void TourStates(PictureTour& tour, const std::string& suffix) {
     if (WaitForMenu() != nullptr) {
         automation::TypeKey(VK_DOWN);
         add("Its menu open");
-        RECT window = {};
-        ::GetWindowRect(tour.Gallery(), &window);
-        window.bottom = window.top + 150;
-        tour.Write(automation::CaptureScreen(window), "toolbar-menu" + suffix);
+        tour.Write(UpperPart(tour, 150), "toolbar-menu" + suffix);
         automation::TypeKey(VK_ESCAPE);
     }
     tour.ParkMouse();
     tour.Write(sheet.Compose(), "toolbar" + suffix);
+}
+
+void TourComboAndMenu(PictureTour& tour, const std::string& suffix) {
+    const HWND combo = ::GetDlgItem(tour.ToolBar(), IDC_SCENE_COMBO);
+    automation::Click(combo);
+    automation::WaitUntilSteady(tour.Gallery());
+    tour.Write(UpperPart(tour, 230), "toolbar-combo" + suffix);
+    automation::TypeKey(VK_ESCAPE); // closes the list ...
+    automation::TypeKey(VK_ESCAPE); // ... and leaves the bar
+    tour.ParkMouse();
+
+    automation::TypeKey('S', VK_MENU);
+    if (WaitForMenu() != nullptr) {
+        automation::TypeKey(VK_DOWN);
+        automation::WaitUntilSteady(tour.Gallery());
+        tour.Write(UpperPart(tour, 320), "gallery-menu" + suffix);
+        automation::TypeKey(VK_ESCAPE);
+        automation::TypeKey(VK_ESCAPE);
+    }
+    automation::WaitUntilSteady(tour.Gallery());
 }
 
 /// Chooses an item of View, Dock the toolbar.
@@ -103,6 +128,7 @@ void Dock(PictureTour& tour, WORD letter) {
 
 void TourBars(PictureTour& tour, const std::string& suffix) {
     TourStates(tour, suffix);
+    TourComboAndMenu(tour, suffix);
 
     MoveMouseToLeftOf(ButtonRect(tour.ToolBar(), kSkin)); // its text is in the status bar
     PictureSheet status(1, 2);

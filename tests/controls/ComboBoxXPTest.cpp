@@ -6,6 +6,8 @@
 #include <afxext.h>
 
 #include <array>
+#include <functional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -13,6 +15,7 @@
 #include "automation/RealInput.h"
 #include "automation/SystemColors.h"
 #include "draw/Hls.h"
+#include "draw/Skin.h"
 #include "tests/support/DialogTemplate.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/Pump.h"
@@ -22,6 +25,7 @@ using automation::Picture;
 namespace {
 
 constexpr WORD kSubject = 101;
+constexpr WORD kPlain = 102;
 constexpr DWORD kStyles[] = {CBS_DROPDOWN, CBS_DROPDOWNLIST};
 
 void ParkMouse() {
@@ -34,19 +38,21 @@ void Fill(CComboBox& combo) {
         combo.AddString("item");
 }
 
-/// Counts the commands that its child sends without a notification code, as Enter on a bar does.
+/// Notes the commands that its child sends without a notification code, as Enter on a bar does.
 template <class Base>
 class Listening : public Base {
 public:
     int m_enters = 0;
     int m_defaults = 0;
+    std::function<void()> m_onEnter = [] {};
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_COMMAND && wParam == kSubject && lParam == 0)
+        if (message == WM_COMMAND && wParam == kSubject && lParam == 0) {
             ++m_enters;
-        if (message == WM_COMMAND && wParam == IDOK)
-            ++m_defaults;
+            m_onEnter();
+        }
+        m_defaults += message == WM_COMMAND && wParam == IDOK;
         return Base::WindowProc(message, wParam, lParam);
     }
 };
@@ -55,6 +61,7 @@ class ComboDialog : public Listening<CDialog> {
 public:
     explicit ComboDialog(DWORD style = CBS_DROPDOWN) {
         m_template.Add("COMBOBOX", "", kSubject, style | WS_TABSTOP | WS_VSCROLL, 10, 10, 80, 60)
+            .Add("COMBOBOX", "", kPlain, style | WS_VSCROLL, 10, 35, 80, 60)
             .Add("BUTTON", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 10, 60, 60, 16);
         CreateIndirect(m_template.Get(), nullptr);
         ::SetForegroundWindow(m_hWnd);
@@ -196,21 +203,42 @@ TEST(ComboBoxXP, ColorsFollowEveryState) {
     }
 }
 
+TEST(ComboBoxXP, WithoutItsSkinItIsTheSystemsOwnCombo) {
+    for (const DWORD style : kStyles) {
+        ComboDialog dialog(style);
+        CComboBoxXP& combo = dialog.m_subject;
+        const auto showsTheSame = [&] {
+            return automation::CaptureWindow(combo) ==
+                   automation::CaptureWindow(::GetDlgItem(dialog, kPlain));
+        };
+        dialog.GetDlgItem(IDOK)->SetFocus();
+        ASSERT_TRUE(ComesToShow(combo, Resting(COLOR_BTNSHADOW)));
+        ASSERT_FALSE(showsTheSame());
+        tint::EnableSkin(combo, false);
+        EXPECT_TRUE(PumpUntil(showsTheSame));
+        automation::MoveMouseOver(combo);
+        PumpFor();
+        ParkMouse();
+        EXPECT_TRUE(PumpUntil(showsTheSame)) << "after the mouse has left";
+        const GdiLedger ledger;
+        tint::EnableSkin(combo, true);
+        EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
+        EXPECT_GT(ledger.Made(), 0) << "repainted at once";
+        EXPECT_TRUE(ComesToShow(combo, Resting(COLOR_BTNSHADOW)));
+    }
+}
+
 // ---- Keyboard -----------------------------------------------------------------------------------
 
 TEST(ComboBoxXP, EnterInADialogIsTheDialogs) {
     ComboDialog dialog;
     CComboBoxXP& combo = dialog.m_subject;
+    const LRESULT usual = combo.SendMessage(WM_GETDLGCODE);
     combo.SetFocus();
-    automation::TypeKey(VK_RETURN);
+    automation::PressKey(VK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return dialog.m_defaults == 1; }));
     EXPECT_EQ(dialog.m_enters, 0);
-
-    const LRESULT usual = combo.SendMessage(WM_GETDLGCODE);
-    dialog.GetDlgItem(IDOK)->SetFocus();
-    automation::PressKey(VK_RETURN);
-    EXPECT_TRUE(
-        PumpUntil([&] { return combo.SendMessage(WM_GETDLGCODE) == (usual | DLGC_WANTALLKEYS); }));
+    EXPECT_EQ(combo.SendMessage(WM_GETDLGCODE), usual | DLGC_WANTALLKEYS);
     automation::ReleaseKey(VK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return combo.SendMessage(WM_GETDLGCODE) == usual; }));
 }
@@ -219,7 +247,6 @@ TEST(ComboBoxXP, EnterAndEscapeOnABar) {
     ComboFrame frame;
     CComboBoxXP& combo = frame.m_subject;
     combo.SetFocus();
-    automation::TypeKey('A');
     automation::TypeKey(VK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return frame.m_bar.m_enters == 1; }));
 
@@ -229,6 +256,23 @@ TEST(ComboBoxXP, EnterAndEscapeOnABar) {
     EXPECT_EQ(::GetParent(::GetFocus()), combo.m_hWnd) << "the first one only closes the list";
     automation::TypeKey(VK_ESCAPE);
     EXPECT_TRUE(PumpUntil([&] { return ::GetFocus() == frame.m_hWnd; }));
+
+    MSG enter = {combo.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_FALSE(combo.PreTranslateMessage(&enter)) << "the key goes on";
+    frame.m_bar.m_onEnter = [&] { combo.DestroyWindow(); };
+    EXPECT_TRUE(combo.PreTranslateMessage(&enter)) << "there is nowhere for it to go";
+}
+
+TEST(ComboBoxXP, LeavesTheFieldToAComboBoxThatLivesOn) {
+    const ComboDialog dialog;
+    const HWND window = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50,
+                                          50, dialog, nullptr, nullptr, nullptr);
+    {
+        CComboBoxXP passing;
+        passing.SubclassWindow(window);
+        passing.UnsubclassWindow();
+    }
+    EXPECT_NE(::FindWindowExA(window, nullptr, "Edit", nullptr), nullptr);
 }
 
 // ---- Height -------------------------------------------------------------------------------------
@@ -236,7 +280,6 @@ TEST(ComboBoxXP, EnterAndEscapeOnABar) {
 /// A combo box over a system that answers with fixed item heights; notes what reaches the system.
 class Measured : public CComboBoxXP {
 public:
-    bool m_fixed = false;
     std::vector<int> m_windows;
     std::vector<int> m_fields;
 
@@ -244,14 +287,14 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         const bool ofField = wParam == static_cast<WPARAM>(-1);
         constexpr UINT bySystem = SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW;
-        if (m_fixed && message == CB_GETITEMHEIGHT)
+        if (message == CB_GETITEMHEIGHT)
             return ofField ? 18 : 16;
-        if (m_fixed && message == CB_SETITEMHEIGHT && ofField && m_fields.size() < 9) {
+        if (message == CB_SETITEMHEIGHT && ofField && m_fields.size() < 9) {
             m_fields.push_back(static_cast<int>(lParam));
             SetWindowPos(nullptr, 0, 0, 90, 30 + static_cast<int>(m_fields.size()), bySystem);
             return 0;
         }
-        if (m_fixed && message == WM_WINDOWPOSCHANGING) {
+        if (message == WM_WINDOWPOSCHANGING) {
             const auto* const position = reinterpret_cast<const WINDOWPOS*>(lParam);
             if ((position->flags & (SWP_NOSIZE | SWP_NOREDRAW)) == 0)
                 m_windows.push_back(position->cy);
@@ -267,8 +310,7 @@ protected:
                           CRect(100, 100, 400, 300), nullptr, 0);
     }
 
-    template <class Combo>
-    void Create(Combo& combo, DWORD style, int height) {
+    void Create(CComboBoxXP& combo, DWORD style, int height) {
         ASSERT_TRUE(combo.Create(style | WS_CHILD | WS_VISIBLE | WS_VSCROLL,
                                  CRect(CPoint(10, 10), CSize(100, height)), &m_parent, kSubject));
         Fill(combo);
@@ -277,82 +319,63 @@ protected:
     CWnd m_parent;
 };
 
-int HeightOf(const CWnd& window) {
-    CRect rect;
-    window.GetWindowRect(rect);
-    return rect.Height();
-}
-
 TEST_F(HeightRule, WindowHoldsFieldRowsAndBorders) {
+    ASSERT_EQ(::GetSystemMetrics(SM_CYBORDER), 1);
     Measured combo;
-    Create(combo, CBS_DROPDOWN, 22);
-    combo.m_fixed = true;
-    const auto resize = [&](int height) {
+    Create(combo, CBS_DROPDOWN, 100);
+    EXPECT_EQ(combo.m_windows.back(), 137);
+    EXPECT_EQ(combo.m_fields.back(), 94) << "100, less the frame";
+    for (const auto& [rows, height, field] :
+         {std::tuple(7, 100, 94), std::tuple(10, 40, 34), std::tuple(10, 2, 0xFFFC)}) {
+        combo.SetVisibleRows(rows);
         combo.m_windows.clear();
         combo.m_fields.clear();
         combo.SetWindowPos(nullptr, 0, 0, 100, height, SWP_NOMOVE | SWP_NOZORDER);
-        return std::pair(combo.m_windows, combo.m_fields);
-    };
-    const auto heights = [](int window, int field) {
-        return std::pair(std::vector{window}, std::vector{field});
-    };
-    ASSERT_EQ(::GetSystemMetrics(SM_CYBORDER), 1);
-    EXPECT_EQ(resize(100), heights(137, 94));
-    combo.SetVisibleRows(10);
-    EXPECT_EQ(resize(40), heights(18 + 16 * 10 + 7, 34)) << "still 7 borders";
-    EXPECT_EQ(resize(2), heights(18 + 16 * 10 + 7, 0xFFFC)) << "the low 16 bits";
-    combo.m_fields.clear();
-    combo.SetWindowPos(nullptr, 20, 20, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    EXPECT_TRUE(combo.m_fields.empty()) << "a move";
+        EXPECT_EQ(combo.m_windows, std::vector{18 + 16 * rows + 7}) << "always 7 borders";
+        EXPECT_EQ(combo.m_fields, std::vector{field});
+        combo.SetWindowPos(nullptr, 20, 20, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        EXPECT_EQ(combo.m_fields.size(), 1u) << "not for a move";
+    }
 }
 
-int RowsShown(CComboBoxXP& combo) {
+/// Height of the closed window and number of rows in its list.
+std::pair<int, int> Shape(CComboBoxXP& combo) {
     combo.ShowDropDown();
     COMBOBOXINFO info = {};
     combo.GetComboBoxInfo(&info);
     RECT list = {};
     ::GetClientRect(info.hwndList, &list);
     combo.ShowDropDown(FALSE);
+    CRect window;
+    combo.GetWindowRect(window);
     const int row = combo.GetItemHeight(0);
-    return list.bottom % row == 0 ? list.bottom / row : -1;
+    return {window.Height(), list.bottom % row == 0 ? list.bottom / row : -1};
 }
 
 TEST_F(HeightRule, ListShowsTheConfiguredRowsAndTheFieldItsHeight) {
     for (const DWORD style : kStyles) {
         CComboBoxXP combo;
         Create(combo, style, 22);
-        EXPECT_EQ(HeightOf(combo), 22);
-        EXPECT_EQ(RowsShown(combo), 7);
+        EXPECT_EQ(Shape(combo), std::pair(22, 7));
         for (const int rows : {1, 3, 12}) {
             combo.SetVisibleRows(rows);
-            EXPECT_EQ(RowsShown(combo), rows);
-            EXPECT_EQ(HeightOf(combo), 22) << "the field keeps its height";
+            EXPECT_EQ(Shape(combo), std::pair(22, rows));
         }
         for (const int height : {100, 40, 40, 25}) {
             combo.MoveWindow(5, 5, 120, height);
-            EXPECT_EQ(HeightOf(combo), height);
-            EXPECT_EQ(RowsShown(combo), 12);
+            EXPECT_EQ(Shape(combo), std::pair(height, 12));
         }
-
         ComboDialog dialog(style);
-        EXPECT_EQ(RowsShown(dialog.m_subject), 7) << "in a dialog";
-        EXPECT_LT(HeightOf(dialog.m_subject), 30);
-    }
-}
+        EXPECT_EQ(Shape(dialog.m_subject).second, 7) << "in a dialog";
+        EXPECT_LT(Shape(dialog.m_subject).first, 30) << "as high as its font";
 
-TEST_F(HeightRule, NonsenseLeavesAUsableComboBox) {
-    CComboBoxXP combo;
-    combo.SetVisibleRows(5); // without a window
-    Create(combo, CBS_DROPDOWN, -20);
-    for (const int height : {0, -1, -2, -40000, 0x7FFFFFFF, 3})
-        combo.SetWindowPos(nullptr, 0, 0, 100, height, SWP_NOMOVE | SWP_NOZORDER);
-    for (const int rows : {0, -7, 0x7FFFFFFF})
-        combo.SetVisibleRows(rows);
-    EXPECT_EQ(combo.GetVisibleRows(), CComboBoxXP::kMostVisibleRows);
-    combo.SetVisibleRows(4);
-    combo.MoveWindow(5, 5, 120, 24);
-    EXPECT_EQ(HeightOf(combo), 24);
-    EXPECT_EQ(RowsShown(combo), 4);
+        for (const int height : {0, -1, -2, -40000, 0x7FFFFFFF, 3}) // leaves it usable
+            combo.SetWindowPos(nullptr, 0, 0, 100, height, SWP_NOMOVE | SWP_NOZORDER);
+        for (const int rows : {0, -7, 0x7FFFFFFF, 4})
+            combo.SetVisibleRows(rows);
+        combo.MoveWindow(5, 5, 120, 24);
+        EXPECT_EQ(Shape(combo), std::pair(24, 4));
+    }
 }
 
 TEST(ComboBoxXP, ResizingClearsTheSelectionOfAnUnfocusedField) {
@@ -365,26 +388,6 @@ TEST(ComboBoxXP, ResizingClearsTheSelectionOfAnUnfocusedField) {
         combo.MoveWindow(5, 5, 120, id == IDOK ? 24 : 26);
         EXPECT_EQ(HIWORD(combo.GetEditSel()) - LOWORD(combo.GetEditSel()), id == IDOK ? 0 : 4);
     }
-}
-
-// ---- Resources ----------------------------------------------------------------------------------
-
-TEST(ComboBoxXP, SeventyThousandPaintsLoseNothing) {
-    ComboDialog dialog(CBS_DROPDOWNLIST);
-    CComboBoxXP& combo = dialog.m_subject;
-    {
-        const GdiLedger ledger;
-        combo.Invalidate();
-        combo.UpdateWindow();
-        EXPECT_EQ(ledger.Unreturned(), "");
-        EXPECT_EQ(ledger.Faults(), "");
-    }
-    for (int i = 0; i < 70000; ++i)
-        combo.SendMessage(WM_PAINT); // the skin is drawn whatever is invalid
-    const HPEN pen = ::CreatePen(PS_SOLID, 1, 0);
-    EXPECT_NE(pen, nullptr);
-    ::DeleteObject(pen);
-    EXPECT_TRUE(ComesToShow(combo, Resting(COLOR_BTNSHADOW)));
 }
 
 } // namespace

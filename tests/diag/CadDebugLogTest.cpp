@@ -75,12 +75,9 @@ std::string Bytes(const fs::path& path) {
 
 TEST(CadDebugLog, TouchesNoFileWhileItIsOff) {
     const Places places;
-    constexpr const char* flags[] = {"", "0", "no", nullptr};
-    for (const char* flag : flags) {
+    for (const char* const flag : {static_cast<const char*>(nullptr), "", "0", "no"}) {
         if (flag != nullptr)
             places.SetFlag(flag);
-        else
-            fs::remove(places.m_root / "program" / "app.v2.ini");
         CCadDebugLog log;
         EXPECT_FALSE(log.IsEnabled());
         EXPECT_STREQ(log.GetPath(), "");
@@ -100,18 +97,16 @@ TEST(CadDebugLog, WritesTheseBytes) {
 
     const std::string entry = "\r\n2024-03-07 09:05:03\r\n";
     log.Log("started\n");
-    EXPECT_EQ(Bytes(places.m_log), entry + "started\r\n");
     log.Log("%s %d", "100% %n %s", 7);
-    EXPECT_EQ(Bytes(places.m_log), entry + "started\r\n" + entry + "100% %n %s 7");
     CCadDebugLog().Log("!");
     EXPECT_EQ(Bytes(places.m_log), entry + "started\r\n" + entry + "100% %n %s 7" + entry + "!");
 
-    log.LogTruncate("x");
-    EXPECT_EQ(Bytes(places.m_log), "x");
     const std::string large(1 << 20, 'w');
     log.LogTruncate("%s", large.c_str());
     log.Log("%s", large.c_str());
     EXPECT_EQ(Bytes(places.m_log), large + entry + large);
+    log.LogTruncate("x");
+    EXPECT_EQ(Bytes(places.m_log), "x");
 
     // Nothing is held open: another program may take the file away.
     EXPECT_TRUE(fs::remove(places.m_log));

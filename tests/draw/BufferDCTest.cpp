@@ -18,58 +18,38 @@ void FillAll(CDC& dc) {
     dc.FillSolidRect(0, 0, 1000, 1000, kInk);
 }
 
-RECT ClipBoxOf(HDC dc) {
-    RECT box = {};
-    ::GetClipBox(dc, &box);
-    return box;
-}
-
-SIZE BitmapSizeOf(HDC dc) {
-    BITMAP bitmap = {};
-    ::GetObjectA(::GetCurrentObject(dc, OBJ_BITMAP), sizeof bitmap, &bitmap);
-    return {bitmap.bmWidth, bitmap.bmHeight};
-}
-
-struct AreaCase {
-    const char* name;
-    RECT asked;
-    RECT clip; ///< the target's clip region
-    RECT copied;
-    SIZE bitmap;
-};
-
-class BufferArea : public testing::TestWithParam<AreaCase> {};
-
-TEST_P(BufferArea, IsTheOnlyThingCopied) {
-    const AreaCase& c = GetParam();
-    Canvas canvas(200, 100);
-    ::IntersectClipRect(canvas.dc(), c.clip.left, c.clip.top, c.clip.right, c.clip.bottom);
-    const automation::Picture before = canvas.Snapshot();
-    {
-        CBufferDC dc(canvas.dc(), &c.asked);
-        EXPECT_EQ(BitmapSizeOf(dc).cx, c.bitmap.cx);
-        EXPECT_EQ(BitmapSizeOf(dc).cy, c.bitmap.cy);
-        const RECT clip = ClipBoxOf(dc);
-        EXPECT_TRUE(::EqualRect(&clip, &c.copied)) << "the rest is excluded from clipping";
-        FillAll(dc);
-        EXPECT_TRUE(canvas.Snapshot() == before) << "nothing shows before the buffer closes";
+TEST(BufferDC, OnlyItsRectangleIsCopied) {
+    constexpr RECT all = {0, 0, 200, 100};
+    const struct {
+        RECT asked;
+        RECT clip; ///< the target's clip region
+        RECT copied;
+        SIZE bitmap;
+    } cases[] = {{{50, 20, 150, 60}, all, {50, 20, 150, 60}, {150, 60}},
+                 {{0, 0, 40, 30}, all, {0, 0, 40, 30}, {40, 30}},
+                 {{7, 9, 8, 10}, all, {7, 9, 8, 10}, {8, 10}},
+                 {{0, 0, 0, 0}, {10, 5, 90, 50}, {10, 5, 90, 50}, {90, 50}}, // the clip box
+                 {{9, 9, 3, 3}, all, all, {200, 100}}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Canvas canvas(200, 100);
+        ::IntersectClipRect(canvas.dc(), c.clip.left, c.clip.top, c.clip.right, c.clip.bottom);
+        {
+            CBufferDC dc(canvas.dc(), &c.asked);
+            BITMAP bitmap = {};
+            ::GetObjectA(::GetCurrentObject(dc, OBJ_BITMAP), sizeof bitmap, &bitmap);
+            EXPECT_EQ(CSize(bitmap.bmWidth, bitmap.bmHeight), CSize(c.bitmap));
+            CRect clip;
+            ::GetClipBox(dc, &clip);
+            EXPECT_EQ(clip, CRect(c.copied)) << "the rest is excluded from clipping";
+            FillAll(dc);
+            EXPECT_EQ(canvas.Count(Canvas::kUntouched, all), 200 * 100) << "nothing shows yet";
+        }
+        const int area = (c.copied.right - c.copied.left) * (c.copied.bottom - c.copied.top);
+        EXPECT_EQ(canvas.Count(kInk, c.copied), area);
+        EXPECT_EQ(canvas.Count(Canvas::kUntouched, all), 200 * 100 - area);
     }
-    const int area = (c.copied.right - c.copied.left) * (c.copied.bottom - c.copied.top);
-    EXPECT_EQ(canvas.Count(kInk, c.copied), area);
-    EXPECT_EQ(canvas.Count(Canvas::kUntouched, {0, 0, 200, 100}), 200 * 100 - area);
 }
-
-constexpr RECT kAll = {0, 0, 200, 100};
-
-INSTANTIATE_TEST_SUITE_P(
-    Rectangles, BufferArea,
-    testing::Values(
-        AreaCase{"AwayFromTheOrigin", {50, 20, 150, 60}, kAll, {50, 20, 150, 60}, {150, 60}},
-        AreaCase{"AtTheOrigin", {0, 0, 40, 30}, kAll, {0, 0, 40, 30}, {40, 30}},
-        AreaCase{"OnePixel", {7, 9, 8, 10}, kAll, {7, 9, 8, 10}, {8, 10}},
-        AreaCase{"EmptyMeansTheClipBox", {0, 0, 0, 0}, {10, 5, 90, 50}, {10, 5, 90, 50}, {90, 50}},
-        AreaCase{"InvertedIsEmptyToo", {9, 9, 3, 3}, kAll, kAll, {200, 100}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 BOOL CALLBACK DrawGrayed(HDC dc, LPARAM text, int count) {
     return ::TextOutA(dc, 0, 0, reinterpret_cast<LPCSTR>(text), count);
@@ -93,7 +73,8 @@ TEST(BufferDC, OverridesAnswerAsTheSystemCalls) {
         buffer.SetBkColor(::GetBkColor(ref));
         CDC& dc = buffer;
 
-        EXPECT_EQ(dc.PtVisible(100, 29), ::PtVisible(ref, 100, 29));
+        EXPECT_FALSE(dc.PtVisible(100, 29));
+        EXPECT_TRUE(buffer.PtVisible(CPoint(99, 29))) << "the other form is not hidden";
         EXPECT_EQ(dc.RectVisible(&rect), ::RectVisible(ref, &rect));
         EXPECT_EQ(dc.TextOut(0, 0, text, 3), ::TextOutA(ref, 0, 0, text, 3));
         EXPECT_EQ(dc.ExtTextOut(5, 5, ETO_CLIPPED, &rect, "abc", 3, widths),
@@ -118,11 +99,12 @@ TEST(BufferDC, OverridesAnswerAsTheSystemCalls) {
     EXPECT_TRUE(actual.Snapshot() == expected.Snapshot());
 }
 
-TEST(BufferDC, ReleasesEverythingAlsoWhenAnExceptionUnwinds) {
+TEST(BufferDC, GivesEverythingBackWhateverHappens) {
     Canvas canvas(50, 50);
+    ::SetTextColor(canvas.dc(), RGB(1, 2, 3));
     GdiLedger ledger;
     const RECT rect = {5, 5, 20, 20};
-    { const CBufferDC dc(canvas.dc(), &rect); }
+    const RECT absurd = {30, 0, INT_MAX, INT_MAX}; // no such bitmap can be had
     try {
         CBufferDC dc(canvas.dc(), &rect);
         CPenSelector pen(dc, kInk);
@@ -131,41 +113,18 @@ TEST(BufferDC, ReleasesEverythingAlsoWhenAnExceptionUnwinds) {
         throw std::runtime_error("in the middle of a paint");
     } catch (const std::runtime_error&) {
     }
-    EXPECT_EQ(ledger.Unreturned(), "");
-    EXPECT_EQ(ledger.Faults(), "");
     EXPECT_EQ(canvas.Count(kInk, rect), 15 * 15) << "what was drawn until then is shown";
-}
-
-TEST(BufferDC, WithoutATargetNothingHappens) {
-    GdiLedger ledger;
-    const RECT rects[] = {{0, 0, 0, 0}, {5, 5, 20, 20}, {0, 0, INT_MAX, INT_MAX}};
-    for (const HDC target : {static_cast<HDC>(nullptr), reinterpret_cast<HDC>(0x12345)})
-        for (const RECT& rect : rects) {
-            CBufferDC dc(target, &rect);
+    for (const HDC target : {canvas.dc(), HDC{}, reinterpret_cast<HDC>(0x12345)})
+        for (const RECT* const asked : {&absurd, &rect}) {
+            CBufferDC dc(target, asked);
             CPenSelector pen(dc, kInk);
+            dc.SetTextColor(RGB(4, 5, 6));
             FillAll(dc);
-            dc.TextOut(1, 1, "text", 4);
         }
-    EXPECT_EQ(ledger.Unreturned(), "");
-    EXPECT_EQ(ledger.Faults(), "");
-}
-
-// No bitmap of that size can be had; the paint then goes straight to the target.
-TEST(BufferDC, DrawsOnTheTargetWhereNoBufferCanBeHad) {
-    Canvas canvas(20, 20);
-    ::SetTextColor(canvas.dc(), RGB(1, 2, 3));
-    GdiLedger ledger;
-    const RECT absurd = {10, 0, INT_MAX, INT_MAX};
-    {
-        CBufferDC dc(canvas.dc(), &absurd);
-        dc.SetTextColor(RGB(4, 5, 6));
-        FillAll(dc);
-    }
-    EXPECT_EQ(canvas.Count(kInk, {10, 0, 20, 20}), 200);
-    EXPECT_EQ(canvas.Count(Canvas::kUntouched, {0, 0, 10, 20}), 200);
-    EXPECT_EQ(::GetTextColor(canvas.dc()), RGB(1, 2, 3));
-    EXPECT_EQ(ClipBoxOf(canvas.dc()).left, 0);
-    EXPECT_EQ(ledger.Unreturned(), "");
+    EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
+    EXPECT_EQ(canvas.Count(kInk, {0, 0, 50, 50}), 15 * 15 + 20 * 50) << "straight on the target";
+    EXPECT_EQ(::GetTextColor(canvas.dc()), RGB(1, 2, 3)) << "which is as found";
+    EXPECT_TRUE(::PtVisible(canvas.dc(), 0, 0));
 }
 
 } // namespace

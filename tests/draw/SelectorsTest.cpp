@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
+#include <tuple>
 
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiLedger.h"
@@ -11,21 +13,10 @@
 namespace {
 
 /// What a selector must put back.
-struct ContextState {
-    explicit ContextState(HDC dc)
-        : pen(::GetCurrentObject(dc, OBJ_PEN)), brush(::GetCurrentObject(dc, OBJ_BRUSH)),
-          font(::GetCurrentObject(dc, OBJ_FONT)), textColor(::GetTextColor(dc)) {}
-
-    bool operator==(const ContextState& other) const {
-        return pen == other.pen && brush == other.brush && font == other.font &&
-               textColor == other.textColor;
-    }
-
-    HGDIOBJ pen;
-    HGDIOBJ brush;
-    HGDIOBJ font;
-    COLORREF textColor;
-};
+auto StateOf(HDC dc) {
+    return std::tuple(::GetCurrentObject(dc, OBJ_PEN), ::GetCurrentObject(dc, OBJ_BRUSH),
+                      ::GetCurrentObject(dc, OBJ_FONT), ::GetTextColor(dc));
+}
 
 LOGFONTA CurrentFont(HDC dc) {
     LOGFONTA font = {};
@@ -33,78 +24,51 @@ LOGFONTA CurrentFont(HDC dc) {
     return font;
 }
 
-HFONT MakeFont(LONG weight, const char* face = "Tahoma") {
+HFONT MakeFont(LONG weight) {
     LOGFONTA font = {};
     font.lfHeight = -13;
     font.lfWeight = weight;
-    ::lstrcpynA(font.lfFaceName, face, LF_FACESIZE);
+    ::lstrcpynA(font.lfFaceName, "Tahoma", LF_FACESIZE);
     return ::CreateFontIndirectA(&font);
 }
 
-struct Scenario {
-    const char* name;
-    std::function<void(HDC)> run;
-};
-
-const Scenario kScenarios[] = {
-    {"pen set twice",
-     [](HDC dc) {
-         CPenSelector pen(dc, RGB(1, 2, 3));
-         pen.SetColor(RGB(4, 5, 6));
-         pen.SetColor(tint::kNoColor);
-     }},
-    {"brush to hollow and back",
-     [](HDC dc) {
-         CBrushSelector brush(dc, RGB(1, 2, 3));
-         brush.SetColor(tint::kNoColor);
-         brush.SetColor(RGB(4, 5, 6));
-     }},
-    {"bold font", [](HDC dc) { CFontWeightSelector font(dc, true); }},
-    {"stock object and text colour",
-     [](HDC dc) { CDCObjectSaver saver(dc, DEFAULT_GUI_FONT, RGB(9, 9, 9)); }},
-    {"own objects of several kinds",
-     [](HDC dc) {
-         CDCObjectSaver saver(dc, MakeFont(400), RGB(9, 9, 9));
-         saver.SelectObject(::CreatePen(PS_SOLID, 1, RGB(7, 7, 7)));
-         saver.SelectStockObject(GRAY_BRUSH);
-         saver.SetTextColor(RGB(8, 8, 8));
-         saver.SetTextColor(RGB(7, 8, 9));
-     }},
-    {"face name twice",
-     [](HDC dc) {
-         CDCObjectSaver saver(dc, "Tahoma");
-         saver.SetFaceName("Courier New");
-     }},
-    {"nested",
-     [](HDC dc) {
-         CDCObjectSaver font(dc, DEFAULT_GUI_FONT);
-         CFontWeightSelector bold(dc, true);
-         CPenSelector outer(dc, RGB(1, 1, 1));
-         CPenSelector inner(dc, RGB(2, 2, 2));
-         CBrushSelector brush(dc, tint::kNoColor);
-     }},
-};
-
 TEST(Selectors, LeaveTheContextAsFound) {
-    GdiLedger ledger;
-    Canvas canvas(10, 10);
-    const std::string before = ledger.Unreturned();
-    const ContextState found(canvas.dc());
-    for (const Scenario& scenario : kScenarios) {
-        scenario.run(canvas.dc());
-        EXPECT_TRUE(ContextState(canvas.dc()) == found) << scenario.name;
-        EXPECT_EQ(ledger.Unreturned(), before) << scenario.name;
-        EXPECT_EQ(ledger.Faults(), "") << scenario.name;
-    }
-}
-
-TEST(Selectors, WithoutADeviceContextTheyReleaseWhatTheyMade) {
-    GdiLedger ledger;
-    for (const HDC dc : {static_cast<HDC>(nullptr), reinterpret_cast<HDC>(0x12345)})
-        for (const Scenario& scenario : kScenarios)
-            scenario.run(dc);
-    EXPECT_EQ(ledger.Unreturned(), "");
-    EXPECT_EQ(ledger.Faults(), "");
+    const std::function<void(HDC)> scenarios[] = {
+        [](HDC dc) {
+            CPenSelector pen(dc, RGB(1, 2, 3));
+            pen.SetColor(tint::kNoColor);
+            CPenSelector inner(dc, RGB(2, 2, 2));
+        },
+        [](HDC dc) {
+            CBrushSelector brush(dc, RGB(1, 2, 3));
+            brush.SetColor(tint::kNoColor);
+            brush.SetColor(RGB(4, 5, 6));
+        },
+        [](HDC dc) {
+            CDCObjectSaver font(dc, DEFAULT_GUI_FONT, RGB(9, 9, 9));
+            CFontWeightSelector bold(dc, true);
+        },
+        [](HDC dc) {
+            CDCObjectSaver saver(dc, MakeFont(400), RGB(9, 9, 9));
+            saver.SelectObject(::CreatePen(PS_SOLID, 1, RGB(7, 7, 7)));
+            saver.SelectStockObject(GRAY_BRUSH);
+            saver.SetTextColor(RGB(8, 8, 8));
+        },
+        [](HDC dc) {
+            CDCObjectSaver saver(dc, "Tahoma");
+            saver.SetFaceName("Courier New");
+        },
+    };
+    const Canvas canvas(10, 10);
+    const auto found = StateOf(canvas.dc());
+    const GdiLedger ledger;
+    for (const HDC dc : {canvas.dc(), HDC{}, reinterpret_cast<HDC>(0x12345)})
+        for (const auto& scenario : scenarios) {
+            SCOPED_TRACE(&scenario - scenarios);
+            scenario(dc);
+            EXPECT_TRUE(StateOf(canvas.dc()) == found);
+            EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
+        }
 }
 
 TEST(BrushSelector, FillsOrLeavesHollow) {
@@ -143,34 +107,23 @@ TEST(FontWeightSelector, ChangesTheWeightOnlyWhereItDiffers) {
     }
 }
 
-TEST(DCObjectSaver, OwnsWhatItSelects) {
-    Canvas canvas(1, 1);
-    const HPEN first = ::CreatePen(PS_SOLID, 1, RGB(1, 1, 1));
-    const HPEN second = ::CreatePen(PS_SOLID, 1, RGB(2, 2, 2));
-    {
-        CDCObjectSaver saver(canvas.dc(), first);
-        EXPECT_EQ(::GetCurrentObject(canvas.dc(), OBJ_PEN), first);
-        saver.SelectObject(second);
-        EXPECT_EQ(::GetObjectType(first), 0u) << "the replaced object is deleted at once";
-        EXPECT_EQ(::GetCurrentObject(canvas.dc(), OBJ_PEN), second);
-    }
-    EXPECT_EQ(::GetObjectType(second), 0u);
-    EXPECT_EQ(::GetCurrentObject(canvas.dc(), OBJ_PEN), ::GetStockObject(BLACK_PEN));
-}
+TEST(DCObjectSaver, OwnsWhatItSelectsAndCopiesTheFontForAFace) {
+    const Canvas canvas(1, 1);
+    const auto current = [&] { return ::GetCurrentObject(canvas.dc(), OBJ_FONT); };
+    const HFONT first = MakeFont(400);
+    CDCObjectSaver base(canvas.dc(), first);
+    EXPECT_EQ(current(), first);
+    base.SelectObject(MakeFont(600));
+    EXPECT_EQ(::GetObjectType(first), 0u) << "the replaced object is deleted at once";
 
-TEST(DCObjectSaver, FaceNameIsCopiedFromTheCurrentFont) {
-    Canvas canvas(1, 1);
-    const CDCObjectSaver base(canvas.dc(), MakeFont(600));
     CDCObjectSaver saver(canvas.dc(), "Courier New");
     EXPECT_EQ(saver.GetFaceName(), "Courier New");
     EXPECT_EQ(CurrentFont(canvas.dc()).lfWeight, 600);
     EXPECT_EQ(CurrentFont(canvas.dc()).lfHeight, -13);
-
-    const HGDIOBJ current = ::GetCurrentObject(canvas.dc(), OBJ_FONT);
+    const HGDIOBJ copy = current();
     saver.SetFaceName("COURIER NEW"); // the same face
     saver.SetFaceName(nullptr);
-    EXPECT_EQ(::GetCurrentObject(canvas.dc(), OBJ_FONT), current);
-
+    EXPECT_EQ(current(), copy);
     const std::string tooLong(100, 'x');
     saver.SetFaceName(tooLong.c_str());
     EXPECT_EQ(saver.GetFaceName(), tooLong.substr(0, 31).c_str());

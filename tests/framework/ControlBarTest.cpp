@@ -130,6 +130,14 @@ TEST_F(ControlBarTest, FloatingBarsHaveAFrameOfTheirSize) {
     const HWND miniHandle = mini->m_hWnd;
     m_frame->DockControlBar(&Tools(), AFX_IDW_DOCKBAR_TOP);
     EXPECT_FALSE(::IsWindow(miniHandle));
+    // It takes its frame along, and can be created once more.
+    m_frame->FloatControlBar(&Tools(), CPoint(200, 180));
+    const HWND second = Tools().GetDockingFrame()->m_hWnd;
+    Tools().DestroyWindow();
+    PumpFor();
+    EXPECT_FALSE(::IsWindow(second));
+    EXPECT_TRUE(Tools().CreateEx(m_frame));
+    EXPECT_TRUE(Tools().LoadToolBar(101));
 }
 
 TEST_F(ControlBarTest, AWishForLengthWrapsBetweenGroups) {
@@ -270,6 +278,12 @@ TEST_F(ControlBarTest, IdleTimeUpdatesButtonsAndPanes) {
     EXPECT_LT(caption.Width(), stretch.Width());
     EXPECT_EQ(last.right, m_frame->Client().right);
     EXPECT_EQ(m_frame->m_status.GetPaneText(2), "NUM");
+    for (const BOOL update : {FALSE, TRUE}) {
+        m_frame->m_status.SetPaneText(0, "new", update);
+        char shown[80] = "";
+        m_frame->m_status.SendMessage(SB_GETTEXT, 0, reinterpret_cast<LPARAM>(shown));
+        EXPECT_EQ(::lstrcmp(shown, "new") == 0, update != FALSE) << shown;
+    }
 }
 
 TEST_F(ControlBarTest, TheButtonUnderTheMouseHasATip) {

@@ -162,6 +162,11 @@ TEST(MdiFrame, TheActiveChildBringsItsMenuAndComesFirst) {
     frame->MDIGetActive(&maximized);
     EXPECT_TRUE(maximized);
     frame->MDIRestore(first);
+    frame->MDITile();
+    CRect one, other;
+    first->GetWindowRect(one);
+    second->GetWindowRect(other);
+    EXPECT_TRUE(one.top == other.top && one.left != other.left) << "side by side";
     // The standard commands, and the name of each child in the menu.
     frame->MDINext();
     EXPECT_EQ(frame->MDIGetActive(), second);

@@ -25,7 +25,8 @@ TEST(GalleryOptions, SaysWhatIsWrong) {
         {{"--picture", "out"}, "unknown option --picture"},
         {{"out"}, "unknown option out"},
         {{"--pictures"}, "--pictures wants a value"},
-        {{"--scheme", "pink"}, "no scheme pink; there are default, high-contrast-dark, warm"},
+        {{"--scheme", "pink"}, "no scheme pink; there are default, high-contrast-dark, warm, "
+          "high-contrast-black, high-contrast-white, slate"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(GalleryOptions::Parse(c.arguments).error, c.error);

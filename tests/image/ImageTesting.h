@@ -51,18 +51,12 @@ inline bool Decode(const Bytes& data, IsImage& image, uint32_t type) {
 /// Sets decode limits, and puts the old ones back at the end of a test.
 class LimitsGuard {
 public:
-    LimitsGuard() : m_saved(tint::GetDecodeLimits()) {}
+    explicit LimitsGuard(const tint::DecodeLimits& limits = {}) : m_saved(tint::GetDecodeLimits()) {
+        tint::SetDecodeLimits(limits);
+    }
     ~LimitsGuard() { tint::SetDecodeLimits(m_saved); }
     LimitsGuard(const LimitsGuard&) = delete;
     LimitsGuard& operator=(const LimitsGuard&) = delete;
-
-    /// The defaults but for one limit.
-    template <class Number>
-    static void Set(Number tint::DecodeLimits::*limit, uint64_t value) {
-        tint::DecodeLimits limits;
-        limits.*limit = static_cast<Number>(value);
-        tint::SetDecodeLimits(limits);
-    }
 
 private:
     tint::DecodeLimits m_saved;

@@ -31,10 +31,7 @@ uint32_t Hex(RGBQUAD color) {
 }
 
 void ExpectEmpty(const IsImage& image) {
-    EXPECT_TRUE(image.IsEmpty());
-    EXPECT_EQ(image.Dib(), nullptr);
-    EXPECT_EQ(image.RowPointer(0), nullptr);
-    EXPECT_EQ(image.Palette(), nullptr);
+    EXPECT_TRUE(image.IsEmpty() && !image.Dib() && !image.RowPointer(0) && !image.Palette());
     EXPECT_EQ(image.Info().bits, nullptr);
     EXPECT_EQ(image.Width() + image.Height() + image.BlockSize(), 0u);
 }
@@ -51,7 +48,6 @@ TEST(Layout, IsThatOfAZeroedDib) {
         IsImage image;
         const uint8_t* block = image.CreateImage(c.width, c.height, c.bitCount, kFormatPng);
         ASSERT_NE(block, nullptr);
-        EXPECT_EQ(block, image.Dib());
         EXPECT_EQ(image.BitCount(), c.stored);
         EXPECT_EQ(image.PaletteEntries(), c.entries);
         EXPECT_EQ(image.EffectiveWidth(), c.stride);
@@ -70,50 +66,43 @@ TEST(Layout, IsThatOfAZeroedDib) {
 /// Sizes in pairs: the last that is accepted and the first that is refused.
 TEST(Layout, RefusesSizesThatDoNotFit) {
     const LimitsGuard guard;
-    DecodeLimits open;
-    open.maxPixels = UINT64_MAX;
-    open.maxBlockBytes = UINT64_MAX;
-    SetDecodeLimits(open);
+    const DecodeLimits open = {UINT64_MAX, UINT64_MAX}, usual, narrow = {100, 40 + 32 * 4};
     const struct {
+        DecodeLimits limits;
         uint32_t width, height, bitCount;
         const char* refusal;
     } cases[] = {
-        {1, 1, 24, nullptr},
-        {0, 1, 24, "image width or height is 0"},
-        {1, 0, 24, "image width or height is 0"},
+        {open, 0, 1, 24, "image width or height is 0"},
+        {open, 1, 0, 24, "image width or height is 0"},
         // A row of 2^32 bits, where a 32-bit product would start again at 0.
-        {178956969, 1, 24, nullptr},
-        {178956970, 1, 24, "image row exceeds 32 bits"},
-        {1, 0x7FFFFFFF, 1, "image exceeds 2 GiB"},
-        {1, 0x80000000, 1, "image width or height exceeds 31 bits"},
-        {0xFFFFFFFF, 1, 1, "image width or height exceeds 31 bits"},
+        {open, 178956969, 1, 24, ""},
+        {open, 178956970, 1, 24, "image row exceeds 32 bits"},
+        {open, 1, 0x7FFFFFFF, 1, "image exceeds 2 GiB"},
+        {open, 1, 0x80000000, 1, "image width or height exceeds 31 bits"},
+        {open, 0xFFFFFFFF, 1, 1, "image width or height exceeds 31 bits"},
         // Header and rows of 4 bytes: 2^31 - 4 and 2^31 bytes.
-        {1, 536870901, 24, nullptr},
-        {1, 536870902, 24, "image exceeds 2 GiB"},
+        {open, 1, 536870901, 24, ""},
+        {open, 1, 536870902, 24, "image exceeds 2 GiB"},
         // 65536 rows of 65536 bytes: exactly 2^32, nothing in 32 bits.
-        {65536, 65536, 8, "image exceeds 2 GiB"},
+        {open, 65536, 65536, 8, "image exceeds 2 GiB"},
+        {usual, 20000, 20000, 24, ""}, // 400 megapixels
+        {usual, 65500, 65500, 1, "image exceeds the limit maxPixels"},
+        {narrow, 10, 4, 24, ""},
+        {narrow, 11, 4, 24, "image exceeds the limit maxBlockBytes"},
+        {narrow, 10, 10, 1, ""},
+        {narrow, 101, 1, 1, "image exceeds the limit maxPixels"},
     };
-    DibLayout layout;
-    for (const auto& c : cases)
-        EXPECT_STREQ(LayOutDib(c.width, c.height, c.bitCount, layout), c.refusal)
-            << c.width << " x " << c.height << " x " << c.bitCount;
-    DecodeLimits limits;
-    SetDecodeLimits(limits);
-    EXPECT_EQ(LayOutDib(20000, 20000, 24, layout), nullptr) << "400 megapixels";
-    EXPECT_NE(LayOutDib(65500, 65500, 1, layout), nullptr);
-
-    limits.maxPixels = 100;
-    limits.maxBlockBytes = 40 + 32 * 4;
-    SetDecodeLimits(limits);
+    for (const auto& c : cases) {
+        SetDecodeLimits(c.limits);
+        DibLayout layout;
+        const char* const refusal = LayOutDib(c.width, c.height, c.bitCount, layout);
+        EXPECT_STREQ(refusal ? refusal : "", c.refusal) << c.width << " x " << c.height;
+    }
     IsImage image;
     EXPECT_NE(image.CreateImage(10, 4, 24), nullptr);
-    EXPECT_STREQ(image.LastErrorText(), "");
-    EXPECT_EQ(image.CreateImage(11, 4, 24), nullptr);
-    EXPECT_STREQ(image.LastErrorText(), "image exceeds the limit maxBlockBytes");
-    ExpectEmpty(image);
-    EXPECT_NE(image.CreateImage(10, 10, 1), nullptr);
     EXPECT_EQ(image.CreateImage(101, 1, 1), nullptr);
     EXPECT_STREQ(image.LastErrorText(), "image exceeds the limit maxPixels");
+    ExpectEmpty(image);
 }
 
 TEST(Settings, StartWithDefaults) {
@@ -127,29 +116,23 @@ TEST(Settings, StartWithDefaults) {
     EXPECT_STREQ(image.LastErrorText(), "");
     image.SetErrorText(std::string(256, 'b').c_str());
     EXPECT_EQ(image.LastErrorText(), std::string(255, 'b'));
-    image.SetErrorText(nullptr);
-    EXPECT_STREQ(image.LastErrorText(), "");
 }
 
 TEST(Settings, KeepResolutionsInBothUnits) {
-    const struct {
-        int32_t dpi;
-        uint32_t stored;
-        int32_t pixelsPerMeter;
-    } cases[] = {{0, 96, 3780},
-                 {-5, 96, 3780},
-                 {72, 72, 2835},
-                 {54545454, 54545454, 2147458819},
-                 {INT32_MAX, INT32_MAX, INT32_MAX}};
+    const int32_t cases[][3] = {{0, 96, 3780}, // dpi, dpi stored, pixels per metre
+                                {-5, 96, 3780},
+                                {72, 72, 2835},
+                                {54545454, 54545454, 2147458819},
+                                {INT32_MAX, INT32_MAX, INT32_MAX}};
     IsImage image;
     image.CreateImage(1, 1, 1);
-    for (const auto& c : cases) {
-        image.SetHorizontalDpi(c.dpi);
-        image.SetVerticalDpi(c.dpi);
-        EXPECT_EQ(image.Info().xDpi, c.stored);
-        EXPECT_EQ(image.Info().yDpi, c.stored);
-        EXPECT_EQ(image.Header().biXPelsPerMeter, c.pixelsPerMeter);
-        EXPECT_EQ(image.Header().biYPelsPerMeter, c.pixelsPerMeter);
+    for (const auto& [dpi, stored, pixelsPerMeter] : cases) {
+        image.SetHorizontalDpi(dpi);
+        image.SetVerticalDpi(dpi);
+        EXPECT_EQ(image.Info().xDpi, static_cast<uint32_t>(stored));
+        EXPECT_EQ(image.Info().yDpi, static_cast<uint32_t>(stored));
+        EXPECT_EQ(image.Header().biXPelsPerMeter, pixelsPerMeter);
+        EXPECT_EQ(image.Header().biYPelsPerMeter, pixelsPerMeter);
         EXPECT_EQ(memcmp(image.Dib(), &image.Header(), 40), 0);
     }
 }
@@ -177,16 +160,26 @@ TEST(Ownership, AGhostSharesAndOwnsNothing) {
     EXPECT_EQ(ghost.sideBuffer, source.sideBuffer);
     EXPECT_EQ(ghost.Info().ghostOf, &source);
     EXPECT_TRUE(ghost.SetPixelColor(1, 0, Rgb(0x102030)));
-
-    EXPECT_FALSE(ghost.DestroyImage());
-    EXPECT_EQ(ghost.CreateImage(1, 1, 1), nullptr);
-    EXPECT_FALSE(ghost.Transfer(source));
-    EXPECT_FALSE(ghost.Copy(IsImage()));
+    CxMemFile stream;
+    EXPECT_FALSE(ghost.DestroyImage() || ghost.CreateImage(1, 1, 1) || ghost.Transfer(source) ||
+                 ghost.Copy(IsImage()) || ghost.DecodeByType(kFormatBmp, &stream));
+    EXPECT_FALSE(ghost.ApplyOrientation());
+    EXPECT_STREQ(ghost.LastErrorText(), "image is a view of another");
     EXPECT_FALSE(source.Transfer(ghost)) << "the source cannot take over a view of itself";
     source.Ghost(&ghost);
     source.Ghost(&source);
     EXPECT_EQ(Picture(ghost), "000000 102030");
     EXPECT_EQ(Picture(source), "000000 102030");
+
+    // The same where only side buffers are shared.
+    OpenImage empty, view;
+    empty.sideBuffer = static_cast<uint8_t*>(calloc(1, 4));
+    view.Ghost(&empty);
+    EXPECT_FALSE(empty.Transfer(view));
+    empty.Ghost(&view);
+    view.CopyInfo(source);
+    EXPECT_EQ(view.Info().ghostOf, &empty);
+    EXPECT_EQ(empty.Info().ghostOf, nullptr);
 }
 
 TEST(Ownership, TransferMovesEverything) {
@@ -201,7 +194,6 @@ TEST(Ownership, TransferMovesEverything) {
     EXPECT_TRUE(target.Transfer(target));
     EXPECT_EQ(target.Dib(), block);
     EXPECT_NE(target.sideBuffer, nullptr);
-    EXPECT_EQ(target.Type(), uint32_t{kFormatBmp});
     EXPECT_EQ(target.Info().jpegQuality, 50);
     EXPECT_EQ(target.Width(), 2u);
     EXPECT_STREQ(target.LastErrorText(), "kept");
@@ -229,7 +221,6 @@ TEST(Ownership, CopiesAreIndependent) {
         EXPECT_EQ(image->Info().bits, image->RowPointer(0));
         EXPECT_EQ(image->Info().xDpi, 300u);
         EXPECT_EQ(image->Info().transparentIndex, 1);
-        EXPECT_EQ(image->Type(), uint32_t{kFormatPng});
     }
     copy = IsImage();
     ExpectEmpty(copy);

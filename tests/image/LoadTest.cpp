@@ -9,13 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 using namespace bmptest;
 using namespace tint;
 using imagetest::Cut;
 using imagetest::Decode;
-using imagetest::LimitsGuard;
 using imagetest::Picture;
 
 namespace {
@@ -83,16 +80,16 @@ TEST(Formats, AreKnownBySignatureOrLowerCaseEnding) {
 }
 
 TEST(Load, ReadsPicturesFromMemoryAndFiles) {
-    Bytes behindText = kText;
-    Append(behindText, kBmp);
-    const TemporaryFile file("picture.dat", kBmp), other("text.dat", behindText);
+    const TemporaryFile file("picture.dat", kBmp);
     for (const IsImage& image : {FromMemory(kBmp), IsImage(file.Path())}) {
         EXPECT_EQ(Picture(image), kRedOverBlue);
         EXPECT_EQ(image.Type(), uint32_t{kFormatBmp});
         EXPECT_STREQ(image.LastErrorText(), "");
     }
-    FILE* handle = fopen(other.Path(), "rb");
+    FILE* handle = tmpfile();
     ASSERT_NE(handle, nullptr);
+    fwrite(kText.data(), 1, kText.size(), handle);
+    fwrite(kBmp.data(), 1, kBmp.size(), handle);
     fseek(handle, static_cast<long>(kText.size()), SEEK_SET);
     IsImage image;
     EXPECT_TRUE(image.LoadFromStdioFile(handle, kFormatBmp)) << "from its position";
@@ -110,7 +107,6 @@ TEST(Load, AnUnknownFormatGivesAPlaceholderAndDamageNothing) {
     } cases[] = {
         {FromMemory(kText), "unknown image format", true},
         {FromMemory(kExifJpeg), "unknown image format", true},
-        {FromMemory(Bytes(10, 'B')), "unknown image format", true},
         {IsImage(nullptr, 0), "unknown image format", true},
         {IsImage(text.Path()), "unknown image format", true},
         {IsImage(empty.Path()), "unknown image format", true},
@@ -124,11 +120,6 @@ TEST(Load, AnUnknownFormatGivesAPlaceholderAndDamageNothing) {
         EXPECT_EQ(c.image.BitCount(), c.placeholder ? 24u : 0u);
         EXPECT_STREQ(c.image.LastErrorText(), c.error);
     }
-    const LimitsGuard guard;
-    LimitsGuard::Set(&DecodeLimits::maxPixels, 1);
-    const IsImage refused = FromMemory(kBmp);
-    EXPECT_TRUE(refused.IsEmpty());
-    EXPECT_NE(strstr(refused.LastErrorText(), "maxPixels"), nullptr) << "passed on by the codec";
 }
 
 TEST(Load, AFailedDecodeLeavesTheTargetAsItWas) {
@@ -142,10 +133,6 @@ TEST(Load, AFailedDecodeLeavesTheTargetAsItWas) {
     EXPECT_FALSE(image.LoadFromStdioFile(nullptr, kFormatBmp));
     EXPECT_EQ(Picture(image), kRedOverBlue);
     EXPECT_EQ(image.Info().transparentIndex, 3);
-    IsImage ghost;
-    ghost.Ghost(&image);
-    EXPECT_FALSE(Decode(kBmp, ghost, kFormatBmp));
-    EXPECT_EQ(ghost.Info().ghostOf, &image);
 }
 
 /// Settings stay; what the picture before said of itself does not.

@@ -74,11 +74,6 @@ TEST(Orientation, LargePicturesAreTurnedTileByTile) {
 
 TEST(Orientation, RefusalsLeaveThePictureAlone) {
     EXPECT_FALSE(IsImage().ApplyOrientation());
-    Oriented image(24, 6);
-    IsImage ghost;
-    ghost.Ghost(&image);
-    EXPECT_FALSE(ghost.ApplyOrientation());
-    EXPECT_STRNE(ghost.LastErrorText(), "");
     Oriented unknown(24, 9);
     EXPECT_FALSE(unknown.ApplyOrientation());
     EXPECT_EQ(Reds(unknown), "123/456");

@@ -10,7 +10,6 @@
 using namespace pngtest;
 using namespace tint;
 using imagetest::Cut;
-using imagetest::LimitsGuard;
 using imagetest::Picture;
 
 namespace {
@@ -34,7 +33,6 @@ TEST(PngPictures, ComeOutRight) {
         {"Depth2", Make(kGrey, 2, 5, 2, {0x1B, 0x40, 0xE4, 0x80}), 4,
          "000000 555555 AAAAAA FFFFFF 555555 / FFFFFF AAAAAA 555555 000000 AAAAAA"},
         {"Depth4", Make(kGrey, 4, 3, 1, {0x0F, 0x80}), 4, "000000 FFFFFF 888888"},
-        {"Depth8", Make(kGrey, 8, 3, 1, {0, 1, 255}), 8, "000000 010101 FFFFFF"},
         {"Depth16", Make(kGrey, 16, 2, 1, {0x12, 0xFF, 0xFF, 0x00}), 24, "121212 FFFFFF"},
         {"Alpha8", Make(kGreyAlpha, 8, 3, 1, {0, 0, 0, 128, 7, 255}), 24, "C0C0C0 606060 070707"},
         {"Alpha8Background",
@@ -58,10 +56,6 @@ TEST(PngPictures, ComeOutRight) {
         {"Rgb16", Make(kRgb, 16, 1, 1, {1, 255, 2, 255, 3, 255}), 24, "010203"},
         {"Rgb8Transparent", Make(kRgb, 8, 2, 1, {1, 2, 3, 1, 2, 4}, {{"tRNS", {0, 1, 0, 2, 0, 3}}}),
          24, "C0C0C0 010204"},
-        {"Rgb8TransparentBackground",
-         Make(kRgb, 8, 2, 1, {1, 2, 3, 1, 2, 4},
-              {{"tRNS", {0, 1, 0, 2, 0, 3}}, {"bKGD", {0, 7, 0, 8, 0, 9}}}),
-         24, "070809 010204"},
         {"Rgb16TransparentByTheLowByte",
          Make(kRgb, 16, 2, 1, {1, 0, 2, 0, 3, 4, 1, 0, 2, 0, 3, 5}, {{"tRNS", {1, 0, 2, 0, 3, 4}}}),
          24, "C0C0C0 010203"},
@@ -76,11 +70,7 @@ TEST(PngPictures, ComeOutRight) {
          "070809 FF0001 070809"},
         {"Palette2", Make(kPalette, 2, 5, 1, {0x1B, 0xC0}, {{"PLTE", kColors}}), 4,
          "000000 FF0000 00FF00 0000FF 0000FF"},
-        {"Palette4", Make(kPalette, 4, 3, 1, {0x12, 0x30}, {{"PLTE", kColors}}), 4,
-         "FF0000 00FF00 0000FF"},
         {"Palette8", Make(kPalette, 8, 2, 1, {3, 1}, {{"PLTE", kColors}}), 8, "0000FF FF0000"},
-        {"PaletteIndexBeyondItIsBlack", Make(kPalette, 8, 2, 1, {200, 1}, {{"PLTE", kColors}}), 8,
-         "000000 FF0000"},
         {"PaletteAlphaKeepsTheColors",
          Make(kPalette, 8, 2, 1, {1, 2}, {{"PLTE", kColors}, {"tRNS", {0, 0, 9}}}), 8,
          "FF0000 00FF00"},
@@ -109,23 +99,19 @@ TEST(PngTransparency, IsKeptInThePalette) {
                  {{0, 9}, -1, {0, 9, 255, 255}},
                  {{255, 0, 128, 3}, -1, {255, 0, 128, 255}}};
     for (const auto& c : cases) {
+        const Chunks chunks = {{"PLTE", kColors}, {"tRNS", c.alpha}};
         IsImage image;
-        ASSERT_TRUE(DecodePng(
-            PngFile(Make(kPalette, 8, 1, 1, {0}, {{"PLTE", kColors}, {"tRNS", c.alpha}})), image));
+        ASSERT_TRUE(DecodePng(PngFile(Make(kPalette, 8, 1, 1, {0}, chunks)), image));
         EXPECT_EQ(image.Info().transparentIndex, c.transparentIndex);
-        const RGBQUAD* palette = image.Palette();
-        const Bytes reserved = {palette[0].rgbReserved, palette[1].rgbReserved,
-                                palette[2].rgbReserved, palette[255].rgbReserved};
-        EXPECT_EQ(reserved, c.reserved);
+        const RGBQUAD* p = image.Palette();
+        EXPECT_EQ(c.reserved, (Bytes{p[0].rgbReserved, p[1].rgbReserved, p[2].rgbReserved,
+                                     p[255].rgbReserved}));
     }
 }
 
 TEST(PngHeader, GivesBackgroundAndResolution) {
-    const Png plain = Make(kRgb, 8, 1, 1, {1, 2, 3});
-    const auto physical = [&plain](const Bytes& data) {
-        Png png = plain;
-        png.chunks = {{"pHYs", data}};
-        return png;
+    const auto physical = [](const Bytes& data) {
+        return Make(kRgb, 8, 1, 1, {1, 2, 3}, {{"pHYs", data}});
     };
     const struct {
         Png png;
@@ -157,9 +143,7 @@ TEST(PngHeader, GivesBackgroundAndResolution) {
 TEST(PngDamage, IsAFailureWithAText) {
     const Bytes good = PngFile(Make(kRgb, 8, 1, 1, {1, 2, 3}));
     const auto flipped = [&good](size_t at) {
-        Bytes bad = good;
-        bad[at] ^= 1;
-        return bad;
+        return imagetest::With(good, [at](Bytes& bad) { bad[at] ^= 1; });
     };
     // A header that claims more than the pixels reach, its checksum put right.
     const auto claiming = [](uint32_t width, uint32_t height) {
@@ -186,7 +170,6 @@ TEST(PngDamage, IsAFailureWithAText) {
         {"a row beyond 32 bits", claiming(179'000'000, 1), "image row exceeds 32 bits"},
         {"too many pixels", PngFile(Make(kGrey, 1, 65500, 65500, {}, {{"IDAT", {0}}})),
          "image exceeds the limit maxPixels"},
-        {"width 0", PngFile(Make(kRgb, 8, 0, 1, {})), nullptr},
         {"width beyond 31 bits", PngFile(Make(kGrey, 1, 0x80000001, 1, {})), nullptr},
         {"a depth there is not", PngFile(Make(kRgb, 4, 1, 1, {1, 2})), nullptr},
     };
@@ -199,13 +182,6 @@ TEST(PngDamage, IsAFailureWithAText) {
         EXPECT_STRNE(image.LastErrorText(), "") << c.name;
     }
     EXPECT_FALSE(CxImagePNG().DecodePng(nullptr));
-    const LimitsGuard guard;
-    for (const uint32_t over : {0u, 1u}) {
-        LimitsGuard::Set(&DecodeLimits::maxBlockBytes, 40 + 4 - over);
-        IsImage image;
-        EXPECT_EQ(DecodePng(good, image), over == 0);
-        EXPECT_STREQ(image.LastErrorText(), over ? "image exceeds the limit maxBlockBytes" : "");
-    }
 }
 
 /// What the picture does not need is read past, sound or not, however long it is.

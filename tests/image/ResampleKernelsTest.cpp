@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The interpolation kernels: values worked out by hand, symmetry, extent and sums.
+// The interpolation kernels: values worked out by hand, symmetry and extent.
 #include "image/ResampleAxis.h"
 #include "image/ResampleKernels.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numeric>
-#include <vector>
 
 using namespace tint;
 
@@ -55,18 +53,10 @@ TEST(KernelsTest, HaveTheValuesOfTheirFormulas) {
     }
 }
 
-TEST(KernelsTest, WeightsAddUpToOne) {
-    EXPECT_EQ(NearestWeight(0.5) + NearestWeight(-0.5), 1) << "one of two as near";
+TEST(KernelsTest, AreChosenByMethodAndNearestTakesOneOfTwo) {
+    EXPECT_EQ(NearestWeight(0.5) + NearestWeight(-0.5), 1);
     EXPECT_EQ(&KernelOf(16), &KernelOf(kLanczos));
     EXPECT_EQ(&KernelOf(-1), &KernelOf(kLanczos));
-    for (int32_t method = kNearest; method <= kCatmullRom; ++method) {
-        SCOPED_TRACE(method);
-        // The Lanczos kernel is not divided by its sum.
-        const float stray = KernelOf(method).normalized ? 1e-6f : 0.01f;
-        const AxisWeights axis = WeightsOf({1000, 1357, &KernelOf(method)}, 0, 1357);
-        for (uint32_t at = 0; at < 1357; ++at)
-            ASSERT_NEAR(std::accumulate(axis.Of(at), axis.Of(at) + axis.taps, 0.0f), 1, stray);
-    }
 }
 
 /// In single precision 400000017 / 200000000 is a little too much, and the last windows lie outside.

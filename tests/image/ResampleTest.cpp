@@ -25,20 +25,20 @@ IsImage MakeImage(uint32_t width, uint32_t height, uint32_t bitCount = 24) {
     image.SetBackgroundColor({10, 200, 30, 0});
     uint32_t seed = width * 31 + height;
     const auto next = [&seed] { return (seed = seed * 1664525 + 1013904223) >> 24; };
-    const auto color = [&next] {
-        const uint32_t kind = next() % 4;
-        const auto channel = [&] { return static_cast<uint8_t>(kind == 0 ? 255 : next()); };
-        return kind == 1 ? RGBQUAD{} : RGBQUAD{channel(), channel(), channel(), 0};
+    const auto color = [&next]() -> RGBQUAD {
+        const bool noise = next() % 2;
+        const uint8_t edge = next() % 2 ? 255 : 0;
+        const auto channel = [&] { return noise ? static_cast<uint8_t>(next()) : edge; };
+        return {channel(), channel(), channel(), 0};
     };
     for (uint32_t i = 0; i < image.PaletteEntries(); ++i)
         image.SetPaletteColor(i, color());
-    for (uint32_t y = 0; y < height; ++y) {
-        for (uint32_t x = 0; x < width; ++x) {
-            if (image.PaletteEntries() > 0)
-                image.SetPixelIndex(x, y, static_cast<uint8_t>(next() % image.PaletteEntries()));
-            else
-                image.SetPixelColor(x, y, color());
-        }
+    for (uint32_t i = 0; i < width * height; ++i) {
+        if (image.PaletteEntries() > 0)
+            image.SetPixelIndex(i % width, i / width,
+                                static_cast<uint8_t>(next() % image.PaletteEntries()));
+        else
+            image.SetPixelColor(i % width, i / width, color());
     }
     return image;
 }
@@ -77,35 +77,21 @@ std::vector<Tap> Taps(uint32_t source, uint32_t target, uint32_t at, const Kerne
     return taps;
 }
 
-RGBQUAD ColorAt(const IsImage& image, int64_t x, int64_t y, int32_t overflow) {
+/// Blue, green and red of a pixel, which may lie outside.
+std::array<double, 3> ColorAt(const IsImage& image, int64_t x, int64_t y, int32_t overflow) {
     const int64_t width = image.Width();
     const int64_t height = image.Height();
     const bool inside = x >= 0 && x < width && y >= 0 && y < height;
-    if (!inside && overflow == kOverflowWhite)
-        return {255, 255, 255, 0};
-    if (!inside && overflow == kOverflowBackground)
-        return image.Info().backgroundColor;
     if (overflow == kOverflowWrap) {
         x = (x % width + width) % width;
         y = (y % height + height) % height;
     }
-    return image.GetPixelColor(static_cast<uint32_t>(std::clamp<int64_t>(x, 0, width - 1)),
-                               static_cast<uint32_t>(std::clamp<int64_t>(y, 0, height - 1)));
-}
-
-/// The sums of a target pixel, neither clamped nor rounded: blue, green, red.
-std::array<double, 3> DirectSum(const IsImage& source, const std::vector<Tap>& columns,
-                                const std::vector<Tap>& rows, int32_t overflow) {
-    std::array<double, 3> sum = {};
-    for (const Tap& row : rows) {
-        for (const Tap& column : columns) {
-            const RGBQUAD color = ColorAt(source, column.at, row.at, overflow);
-            sum[0] += column.weight * row.weight * color.rgbBlue;
-            sum[1] += column.weight * row.weight * color.rgbGreen;
-            sum[2] += column.weight * row.weight * color.rgbRed;
-        }
-    }
-    return sum;
+    RGBQUAD color =
+        image.GetPixelColor(static_cast<uint32_t>(std::clamp<int64_t>(x, 0, width - 1)),
+                            static_cast<uint32_t>(std::clamp<int64_t>(y, 0, height - 1)));
+    if (!inside && overflow == kOverflowBackground)
+        color = image.Info().backgroundColor;
+    return {1.0 * color.rgbBlue, 1.0 * color.rgbGreen, 1.0 * color.rgbRed};
 }
 
 /// The largest distance of a channel from its direct sum, clamped and cut or rounded as it is due.
@@ -115,58 +101,51 @@ double LargestError(const IsImage& source, const IsImage& target, const Resample
     const bool cut = method.interpolation == kLanczos && !averages;
     const Kernel& kernel = KernelOf(method.interpolation);
     double largest = 0;
-    for (uint32_t y = 0; y < target.Height(); ++y) {
-        const auto rows = Taps(source.Height(), target.Height(), y, kernel, averages);
-        for (uint32_t x = 0; x < target.Width(); ++x) {
-            const auto columns = Taps(source.Width(), target.Width(), x, kernel, averages);
-            const auto sum = DirectSum(source, columns, rows, method.overflow);
-            const RGBQUAD color = target.GetPixelColor(x, y);
-            const double got[] = {static_cast<double>(color.rgbBlue),
-                                  static_cast<double>(color.rgbGreen),
-                                  static_cast<double>(color.rgbRed)};
-            for (int c = 0; c < 3; ++c) {
-                const double due = std::floor(std::clamp(sum[c], 0.0, 255.0) + (cut ? 0 : 0.5));
-                largest = std::max(largest, std::fabs(due - got[c]));
+    for (uint32_t i = 0; i < target.Width() * target.Height(); ++i) {
+        const uint32_t x = i % target.Width(), y = i / target.Width();
+        std::array<double, 3> sum = {};
+        const auto columns = Taps(source.Width(), target.Width(), x, kernel, averages);
+        for (const Tap& row : Taps(source.Height(), target.Height(), y, kernel, averages)) {
+            for (const Tap& column : columns) {
+                const auto color = ColorAt(source, column.at, row.at, method.overflow);
+                for (size_t c = 0; c < 3; ++c)
+                    sum[c] += column.weight * row.weight * color[c];
             }
+        }
+        const auto got = ColorAt(target, x, y, kOverflowRepeat);
+        for (size_t c = 0; c < 3; ++c) {
+            const double due = std::floor(std::clamp(sum[c], 0.0, 255.0) + (cut ? 0 : 0.5));
+            largest = std::max(largest, std::fabs(due - got[c]));
         }
     }
     return largest;
 }
 
-std::vector<const ResampleOps*> AllOps() {
-    std::vector<const ResampleOps*> all = {&PlainResampleOps()};
-    for (const ResampleOps* ops : {Sse2ResampleOps(), Avx2ResampleOps()}) {
-        if (ops)
-            all.push_back(ops);
-    }
-    return all;
-}
-
 TEST(Resample, EveryVariantAgreesWithTheDirectSum) {
     const uint32_t sizes[][4] = {
-        {21, 17, 84, 68}, {19, 13, 50, 31},  {3, 2, 11, 9},    {1, 1, 7, 5},     {40, 3, 300, 5},
-        {2, 40, 5, 131},  {48, 36, 12, 9},   {53, 47, 17, 13}, {30, 20, 29, 19}, {23, 19, 1, 1},
-        {5, 90, 4, 2},    {9000, 2, 300, 1}, {37, 5, 12, 14},  {9, 31, 40, 8},   {15, 12, 15, 29},
-        {15, 12, 15, 7},  {13, 11, 37, 24}};
+        {21, 17, 84, 68}, {3, 2, 11, 9},    {1, 1, 7, 5},     {40, 3, 300, 5}, {2, 40, 5, 131},
+        {53, 47, 17, 13}, {30, 20, 29, 19}, {23, 19, 1, 1},   {5, 90, 4, 2},   {9000, 2, 300, 1},
+        {37, 5, 12, 14},  {9, 31, 40, 8},   {15, 12, 15, 29}, {15, 12, 15, 7}, {13, 11, 37, 24}};
+    const ResampleOps* const variants[] = {&PlainResampleOps(), Sse2ResampleOps(),
+                                           Avx2ResampleOps()};
     for (const auto& [width, height, newWidth, newHeight] : sizes) {
         const IsImage source = MakeImage(width, height);
-        // All methods are tried at the last size.
-        const bool last = &sizes[16][0] == &width;
+        const bool allMethods = width == 13;
         for (int32_t method = kNearest; method <= kCatmullRom; ++method) {
-            if (!last && method != kLanczos && method != kBilinear && method != kMitchell)
+            if (!allMethods && method != kLanczos && method != kBilinear && method != kMitchell)
                 continue;
             for (const int32_t overflow : {kOverflowRepeat, kOverflowWrap, kOverflowBackground}) {
-                for (const bool averaging : {true, false}) {
-                    std::vector<IsImage> targets;
-                    for (const ResampleOps* ops : AllOps()) {
-                        IsImage& target = targets.emplace_back();
-                        target.CreateImage(newWidth, newHeight, 24);
-                        const ResampleMethod how = {method, overflow, averaging};
-                        ASSERT_EQ(ResamplePixels(source, target, how, *ops), nullptr);
-                        EXPECT_LE(LargestError(source, target, how), 1)
-                            << ops->name << ", method " << method << ", overflow " << overflow
-                            << ", averaging " << averaging << ", " << width << " to " << newWidth;
-                    }
+                for (int i = 0; i < 6; ++i) {
+                    const ResampleOps* const ops = variants[i / 2];
+                    const ResampleMethod how = {method, overflow, i % 2 == 0};
+                    IsImage target;
+                    target.CreateImage(newWidth, newHeight, 24);
+                    if (!ops)
+                        continue; // not on this processor
+                    ASSERT_EQ(ResamplePixels(source, target, how, *ops), nullptr);
+                    EXPECT_LE(LargestError(source, target, how), 1)
+                        << ops->name << ", method " << method << ", overflow " << overflow
+                        << ", averaging " << how.averaging << ", " << width << " to " << newWidth;
                 }
             }
         }
@@ -177,22 +156,6 @@ TEST(Resample, MoreRowsThanWeightsAreKeptFor) {
     IsImage source = MakeImage(1, 9), target;
     ASSERT_TRUE(source.Resample(1, 66000, kBilinear, kOverflowWrap, &target));
     EXPECT_LE(LargestError(source, target, {kBilinear, kOverflowWrap, true}), 1);
-}
-
-TEST(Resample, AveragingKeepsTheMeanBrightness) {
-    const auto mean = [](const IsImage& image) {
-        double sum = 0;
-        for (uint32_t i = 0; i < image.Width() * image.Height(); ++i)
-            sum += image.GetPixelColor(i % image.Width(), i / image.Width()).rgbGreen;
-        return sum / image.Width() / image.Height();
-    };
-    IsImage source = MakeImage(401, 299), target;
-    const int32_t sizes[][2] = {{400, 298}, {100, 75}, {67, 250}, {31, 299}, {13, 7}};
-    for (const auto& [width, height] : sizes) {
-        ASSERT_TRUE(source.Resample(width, height, kLanczos, kOverflowWhite, &target));
-        // What rounding leaves of n pixels, at four sigma.
-        EXPECT_NEAR(mean(target), mean(source), 4 * 0.29 / std::sqrt(width * height) + 0.001);
-    }
 }
 
 TEST(Resample, BeyondTheEdgesLiesWhatTheOverflowMethodSays) {
@@ -227,16 +190,15 @@ TEST(Resample, IndexedPicturesAreFilteredByTheirColors) {
         colors.CreateImage(60, 50, 24);
         for (uint32_t i = 0; i < 60 * 50; ++i)
             colors.SetPixelColor(i % 60, i / 60, indexed.GetPixelColor(i % 60, i / 60));
-        const int32_t sizes[][2] = {{171, 133}, {23, 19}};
-        for (const auto& [width, height] : sizes) {
+        for (const int32_t width : {171, 23}) {
             IsImage fromIndexed, fromColors;
-            ASSERT_TRUE(indexed.Resample(width, height, kLanczos, kOverflowWrap, &fromIndexed));
-            ASSERT_TRUE(colors.Resample(width, height, kLanczos, kOverflowWrap, &fromColors));
+            ASSERT_TRUE(indexed.Resample(width, 40, kLanczos, kOverflowWrap, &fromIndexed));
+            ASSERT_TRUE(colors.Resample(width, 40, kLanczos, kOverflowWrap, &fromColors));
             EXPECT_EQ(fromIndexed.BitCount(), bits);
-            for (uint32_t y = 0; y < fromColors.Height(); ++y) {
-                for (uint32_t x = 0; x < fromColors.Width(); ++x)
-                    ASSERT_EQ(fromIndexed.GetPixelIndex(x, y),
-                              indexed.GetNearestIndex(fromColors.GetPixelColor(x, y)));
+            for (uint32_t i = 0; i < fromColors.Width() * 40; ++i) {
+                const uint32_t x = i / 40, y = i % 40;
+                ASSERT_EQ(fromIndexed.GetPixelIndex(x, y),
+                          indexed.GetNearestIndex(fromColors.GetPixelColor(x, y)));
             }
         }
     }
@@ -261,8 +223,7 @@ TEST(Resample, KeepsSettingsAndAnswersTheSameSizeWithACopy) {
 }
 
 TEST(Resample, RefusesAndStaysAsItWas) {
-    const LimitsGuard guard;
-    LimitsGuard::Set(&DecodeLimits::maxPixels, uint64_t{1} << 40);
+    const LimitsGuard guard({UINT64_MAX});
     IsImage image = MakeImage(4, 3), view;
     const std::string before = Picture(image);
     view.Ghost(&image);
@@ -295,7 +256,6 @@ TEST(Resample, RefusesAndStaysAsItWas) {
 
 /// Rows of many pixels that become a few would take more working memory than pictures may.
 TEST(Resample, WorkingMemoryIsLimitedToo) {
-    const LimitsGuard guard;
     const struct {
         uint32_t bits, height;
         int32_t newWidth;
@@ -308,10 +268,9 @@ TEST(Resample, WorkingMemoryIsLimitedToo) {
                  {8, 40, 1, 6700000, false},
                  {8, 40, 1, 6900000, true}};
     for (const auto& c : cases) {
-        tint::SetDecodeLimits({});
         IsImage image, target;
         ASSERT_NE(image.CreateImage(100000, c.height, c.bits), nullptr);
-        LimitsGuard::Set(&DecodeLimits::maxBlockBytes, c.limit);
+        const LimitsGuard guard({UINT64_MAX, c.limit});
         EXPECT_EQ(image.Resample(c.newWidth, 1, kLanczos, kOverflowRepeat, &target), c.accepted);
         EXPECT_STREQ(image.LastErrorText(),
                      c.accepted ? "" : "resampling exceeds the limit maxBlockBytes");

@@ -158,8 +158,10 @@ TEST(ConversionImages, ComeFromTheFirstToolbarWithTheCommand) {
     {
         ListedToolBar first(frame, {kFirst, kFirst + 1});
         ListedToolBar second(frame, {kFirst + 2, kFirst + 1});
+        auto* const mdiChild = new CMDIChildWnd; // deletes itself with its window
+        mdiChild->Create(nullptr, "", WS_CHILD, CFrameWnd::rectDefault, &frame);
         CWnd child;
-        child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &frame, 0);
+        child.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), mdiChild, 0);
         for (CWnd* const window : {static_cast<CWnd*>(&frame), &child}) {
             tint::MenuRecords::Get().imageOfCommand.RemoveAll();
             const TestMenu menu({"a", "b", "c", "d"});
@@ -183,20 +185,6 @@ TEST(ConversionImages, ComeFromTheFirstToolbarWithTheCommand) {
     const TestMenu menu({"a"});
     Convert(menu, nullptr);
     EXPECT_FALSE(CMenuItemXP(menu, 0, true).HasImage());
-    frame.DestroyWindow();
-}
-
-TEST(ConversionImages, AnMdiChildsSystemMenuStaysTheSystems) {
-    TestFrame frame;
-    auto* const child = new CMDIChildWnd; // deletes itself with its window
-    ASSERT_TRUE(child->Create(nullptr, "child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW,
-                              CFrameWnd::rectDefault, &frame));
-    frame.MDIActivate(child);
-    const HMENU menu = ::GetSystemMenu(child->m_hWnd, FALSE);
-    tint::GetMenuState().openBarItem = {1, 2, 3, 4};
-    Convert(menu, &frame);
-    EXPECT_TRUE(::IsRectEmpty(&tint::GetMenuState().openBarItem));
-    EXPECT_FALSE(IsOwnerDrawn(menu, 0));
     frame.DestroyWindow();
 }
 

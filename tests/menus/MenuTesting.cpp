@@ -86,6 +86,21 @@ bool WhileMenusRun(const std::function<void()>& script) {
     return ended;
 }
 
+std::string FirstDifference(const automation::Picture& have, const automation::Picture& want,
+                            const RECT& skip) {
+    if (have.width != want.width || have.height != want.height)
+        return "another size";
+    for (int y = 0; y < have.height; ++y)
+        for (int x = 0; x < have.width; ++x)
+            if (have.At(x, y) != want.At(x, y) && !::PtInRect(&skip, {x, y})) {
+                char text[80] = "";
+                ::wsprintfA(text, "at %d, %d: %06lx instead of %06lx", x, y, have.At(x, y),
+                            want.At(x, y));
+                return text;
+            }
+    return "";
+}
+
 std::vector<HWND> VisiblePopups() {
     std::vector<HWND> popups;
     HWND popup = nullptr;

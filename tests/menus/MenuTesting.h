@@ -61,5 +61,10 @@ bool WhileMenusRun(const std::function<void()>& script);
 HWND WaitForPopup(int depth = 0);
 bool WaitForNoPopup();
 
+/// Where two pictures differ first, looked at by rows, and how; empty when they do not.
+/// @param skip  pixels that need not be the same
+std::string FirstDifference(const automation::Picture& have, const automation::Picture& want,
+                            const RECT& skip = {});
+
 /// The popups that are there, in the order in which they were opened.
 std::vector<HWND> VisiblePopups();

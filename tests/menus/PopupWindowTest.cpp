@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The popup-menu window: its frame, its shadow, and what becomes of its window procedure.
+#include <afxwin.h>
 #include <gtest/gtest.h>
 
 #include "automation/RealInput.h"
@@ -131,43 +132,26 @@ TEST(PopupProcedure, LeavesAStrangerInTheChainAlone) {
     EXPECT_FALSE(IsSubclassed(popup));
 }
 
-// Ends the hook of its process, so it is run in one of its own by the test below.
-TEST(PopupHook, DISABLED_IsLostAfterTheLastUninstall) {
+/// Whether the hook ends as it should; it cannot be had again in this process.
+bool HookEndsWithTheLastUninstall() {
     const MenuWindow window({"&One"});
     const BarePopup popup;
     const LONG_PTR old = reinterpret_cast<LONG_PTR>(::GetPropA(popup, kOldProc));
-    ASSERT_NE(old, 0);
-    EXPECT_EQ(CMenuXP::InstallHook(), 3U) << "the environment's and the window's before it";
+    const bool counted = CMenuXP::InstallHook() == 3; // the environment's and the window's before it
     CMenuXP::UninstallHook();
     CMenuXP::UninstallHook();
-    EXPECT_TRUE(IsSubclassed(popup)) << "one install is left";
+    const bool kept = IsSubclassed(popup); // one install is left
     CMenuXP::UninstallHook();
-    EXPECT_EQ(ProcOf(popup), old);
-    EXPECT_FALSE(IsSubclassed(popup));
-    EXPECT_EQ(popup.Object(), nullptr);
+    const bool restored =
+        !IsSubclassed(popup) && ProcOf(popup) == old && popup.Object() == nullptr;
     CMenuXP::UninstallHook(); // without an install
-
-    EXPECT_EQ(CMenuXP::InstallHook(), 1U) << "only counted";
+    const bool onlyCounted = CMenuXP::InstallHook() == 1;
     const BarePopup later;
-    EXPECT_FALSE(IsSubclassed(later));
+    return counted && kept && restored && onlyCounted && !IsSubclassed(later);
 }
 
-TEST(PopupHook, EndsWithTheLastUninstall) {
-    char program[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, program, MAX_PATH);
-    std::string command = '"' + std::string(program) +
-                          "\" --gtest_also_run_disabled_tests --gtest_filter=*DISABLED_IsLost*";
-    STARTUPINFOA startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    ASSERT_TRUE(::CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                 nullptr, &startup, &process));
-    EXPECT_EQ(::WaitForSingleObject(process.hProcess, 30000), DWORD{WAIT_OBJECT_0});
-    DWORD exitCode = 1;
-    ::GetExitCodeProcess(process.hProcess, &exitCode);
-    EXPECT_EQ(exitCode, 0U);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+TEST(PopupHookDeathTest, EndsWithTheLastUninstall) {
+    EXPECT_EXIT(::_exit(HookEndsWithTheLastUninstall() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 // --- Size and system ----------------------------------------------------------------------------
@@ -241,23 +225,9 @@ void PutFrame(Picture& picture, int shadow) {
         });
 }
 
-void PutLine(Picture& picture, int from, int to, COLORREF color) {
-    for (int x = std::max(from, 0); x < to; ++x)
-        picture.pixels[x] = color;
-}
-
-/// Where two pictures differ on the three lines of the frame and in the shadow.
-std::string FrameDifference(const Picture& have, const Picture& want, int shadow) {
-    if (have.width != want.width || have.height != want.height)
-        return "size";
-    for (int y = 0; y < have.height; ++y)
-        for (int x = 0; x < have.width; ++x) {
-            const bool inside =
-                x >= 3 && y >= 3 && x < have.width - shadow - 3 && y < have.height - shadow - 3;
-            if (!inside && have.At(x, y) != want.At(x, y))
-                return std::to_string(x) + ", " + std::to_string(y);
-        }
-    return "";
+/// What lies inside the three lines of the frame.
+RECT InsideOf(const Picture& popup, int shadow) {
+    return {3, 3, popup.width - shadow - 3, popup.height - shadow - 3};
 }
 
 Picture Crop(const Picture& screen, const RECT& rect) {
@@ -284,9 +254,11 @@ TEST(PopupFrame, IsFlatWithAShadowAndOpensToTheBarItem) {
             EXPECT_EQ(item.bottom, rect.top + 1) << "it hangs from the bar";
             Picture want = Crop(before, rect);
             PutFrame(want, shadow);
-            PutLine(want, item.left - rect.left - 3,
-                    item.left - rect.left + (item.right - item.left) - 5, Face(20));
-            EXPECT_EQ(FrameDifference(have, want, shadow), "") << osClass;
+            const LONG left = item.left - rect.left;
+            const LONG right = item.right - rect.left;
+            std::fill(want.pixels.begin() + std::max(left - 3, 0L),
+                      want.pixels.begin() + right - 5, Face(20));
+            EXPECT_EQ(FirstDifference(have, want, InsideOf(want, shadow)), "") << osClass;
             automation::TypeKey(VK_ESCAPE);
             automation::TypeKey(VK_ESCAPE);
             EXPECT_TRUE(WaitForNoPopup());
@@ -327,7 +299,7 @@ TEST(PopupFrame, PrintsOverTheBackgroundTakenBefore) {
         ::SendMessageA(popup, WM_PRINT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_NONCLIENT);
         Picture want = under;
         PutFrame(want, shadow); // not joined: no item was painted meanwhile
-        EXPECT_EQ(FrameDifference(canvas.Snapshot(), want, shadow), "") << osClass;
+        EXPECT_EQ(FirstDifference(canvas.Snapshot(), want, InsideOf(want, shadow)), "") << osClass;
         ::SetRectEmpty(&tint::GetMenuState().openBarItem);
     }
 }

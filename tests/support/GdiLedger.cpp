@@ -42,6 +42,7 @@ TINTKIT_REAL(GetWindowDC)
 TINTKIT_REAL(ReleaseDC)
 TINTKIT_REAL(BeginPaint)
 TINTKIT_REAL(EndPaint)
+TINTKIT_REAL(SetClipboardData)
 
 /// Stands in for a function that makes an object (or hands out a device context).
 template <class Real, class Function = typename Real::Function>
@@ -85,6 +86,14 @@ int WINAPI LedgerReleaseDC(HWND window, HDC dc) {
     return RealReleaseDC::call(window, dc);
 }
 
+/// What the clipboard has taken is its own.
+HANDLE WINAPI LedgerSetClipboardData(UINT format, HANDLE data) {
+    const HANDLE taken = RealSetClipboardData::call(format, data);
+    if (taken != nullptr && format == CF_BITMAP)
+        g_ledger->OnDeleted(data);
+    return taken;
+}
+
 HDC WINAPI LedgerBeginPaint(HWND window, PAINTSTRUCT* paint) {
     const HDC dc = RealBeginPaint::call(window, paint);
     g_ledger->OnMade(dc, RealBeginPaint::name);
@@ -120,6 +129,7 @@ GdiLedger::GdiLedger() : m_defaultBitmap(DefaultBitmap()) {
     redirect(RealReleaseDC(), "user32.dll", &LedgerReleaseDC);
     redirect(RealBeginPaint(), "user32.dll", &LedgerBeginPaint);
     redirect(RealEndPaint(), "user32.dll", &LedgerEndPaint);
+    redirect(RealSetClipboardData(), "user32.dll", &LedgerSetClipboardData);
 }
 
 GdiLedger::~GdiLedger() = default;

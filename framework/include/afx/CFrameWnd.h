@@ -56,8 +56,6 @@ public:
     virtual CFrameWnd* GetActiveFrame();
     CString GetTitle() const;
     void SetTitle(LPCTSTR lpszTitle);
-    /// Shows or hides the windows that this one owns.
-    void ShowOwnedWindows(BOOL bShow);
 
     /// @name Control bars
     /// @{

@@ -32,7 +32,6 @@ public:
     void MDIIconArrange();
     void MDIMaximize(CWnd* pWnd);
     void MDINext();
-    void MDIPrev();
     void MDIRestore(CWnd* pWnd);
     /// @return the menu that was replaced. Call DrawMenuBar() afterwards.
     CMenu* MDISetMenu(CMenu* pFrameMenu, CMenu* pWindowMenu);

@@ -69,6 +69,8 @@ private:
         UINT style = 0;
         int width = 0;
         CString text;
+        /// The control shows another text still.
+        bool stale = false;
     };
 
     int ItemCount() const override;

@@ -38,8 +38,6 @@ public:
     BOOL SetBitmap(HBITMAP hbmImageWell);
     /// In pixels; a button needs 7 more than its image in width and 6 in height.
     void SetSizes(SIZE sizeButton, SIZE sizeImage);
-    /// Height of the bar in pixels: the borders take what the buttons leave.
-    void SetHeight(int cyHeight);
     /// @param lpIDArray commands, ID_SEPARATOR for separators; null for empty buttons.
     BOOL SetButtons(const UINT* lpIDArray, int nIDCount);
 
@@ -53,9 +51,6 @@ public:
     void SetButtonInfo(int nIndex, UINT nID, UINT nStyle, int iImage);
     UINT GetButtonStyle(int nIndex) const;
     void SetButtonStyle(int nIndex, UINT nStyle);
-    CString GetButtonText(int nIndex) const;
-    void GetButtonText(int nIndex, CString& rString) const;
-    BOOL SetButtonText(int nIndex, LPCTSTR lpszText);
     /// The control; valid as long as the bar.
     CToolBarCtrl& GetToolBarCtrl() const;
 
@@ -75,7 +70,6 @@ private:
     int ItemCount() const override;
     bool GetButton(int index, TBBUTTON& button) const;
     void SetButton(int index, const TBBUTTON& button);
-    int TextIndex(const CString& text);
 
     CSize m_buttonSize;
     /// The images the control shows; it keeps asking the bitmap.
@@ -84,7 +78,5 @@ private:
     HINSTANCE m_imagesModule;
     LPCTSTR m_imagesId;
     CString m_imagesName;
-    /// The texts of buttons, each once: the control knows them by number.
-    std::vector<CString> m_texts;
     const std::unique_ptr<CToolBarCtrl> m_control;
 };

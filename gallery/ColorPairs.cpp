@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/ColorPairs.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "draw/Hls.h"
+#include "menus/MenuLook.h"
+
+namespace {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kNearlyWhite = RGB(0xF0, 0xF0, 0xF0);
+
+COLORREF System(int index) {
+    return ::GetSysColor(index);
+}
+
+COLORREF Face(int luminance) {
+    return AdjustColorLS(System(COLOR_BTNFACE), luminance, 0);
+}
+
+COLORREF Highlight(int luminance, int saturation) {
+    return AdjustColorLS(System(COLOR_HIGHLIGHT), luminance, saturation);
+}
+
+bool IsHighContrast() {
+    HIGHCONTRASTA contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+using Pairs = std::vector<ColorPair>;
+
+void AddControls(Pairs& pairs) {
+    const Pairs controls = {
+        {"Button", System(COLOR_BTNTEXT), Face(15), false},
+        {"Button, hot", kBlack, Highlight(80, -66), false},
+        {"Button, pressed", kNearlyWhite, Highlight(50, -50), false},
+        {"Button, disabled", System(COLOR_GRAYTEXT), Face(15), true},
+        {"Glyph", System(COLOR_BTNTEXT), System(COLOR_BTNFACE), false},
+        {"Glyph, hot", kBlack, Highlight(70, -57), false},
+        {"Glyph, pressed", kNearlyWhite, Highlight(50, -50), false},
+        {"Glyph, disabled", System(COLOR_GRAYTEXT), System(COLOR_BTNFACE), true},
+        {"List", System(COLOR_WINDOWTEXT), System(COLOR_WINDOW), false},
+        {"List, selected", System(COLOR_HIGHLIGHTTEXT), System(COLOR_HIGHLIGHT), false},
+        {"Toolbar arrow", System(COLOR_BTNTEXT), Face(20), false},
+        {"Toolbar arrow, hot", kBlack, Highlight(70, -57), false},
+    };
+    pairs.insert(pairs.end(), controls.begin(), controls.end());
+}
+
+void AddMenus(Pairs& pairs) {
+    auto& look = tint::MenuLook::Get();
+    const COLORREF text = System(COLOR_MENUTEXT);
+    const COLORREF pale = Face(-18);
+    const Pairs menus = {
+        {"Menu bar", text, System(COLOR_BTNFACE), false},
+        {"Menu bar, hot", text, Highlight(70, -57), false},
+        {"Menu bar, open", text, Face(20), false},
+        {"Menu bar, inactive", System(COLOR_BTNSHADOW), System(COLOR_BTNFACE), true},
+        {"Menu", text, look.GradientEnd(), false},
+        {"Menu, selected", text, look.GradientStart(), false}, // the dark end of the gradient
+        {"Menu, disabled", pale, look.GradientEnd(), true},
+    };
+    pairs.insert(pairs.end(), menus.begin(), menus.end());
+}
+
+/// Menus when the user asks for high contrast: the system's colours as they are.
+void AddPlainMenus(Pairs& pairs) {
+    const COLORREF text = System(COLOR_MENUTEXT);
+    const COLORREF grey = System(COLOR_GRAYTEXT);
+    const COLORREF selectedText = System(COLOR_HIGHLIGHTTEXT);
+    const COLORREF selected = System(COLOR_HIGHLIGHT);
+    const Pairs menus = {
+        {"Menu bar", text, System(COLOR_BTNFACE), false},
+        {"Menu bar, hot", selectedText, selected, false},
+        {"Menu bar, open", text, Face(20), false},
+        {"Menu bar, inactive", grey, System(COLOR_BTNFACE), true},
+        {"Menu", text, System(COLOR_MENU), false},
+        {"Menu, selected", selectedText, selected, false},
+        {"Menu, disabled", grey, System(COLOR_MENU), true},
+    };
+    pairs.insert(pairs.end(), menus.begin(), menus.end());
+}
+
+void AddLinks(Pairs& pairs) {
+    // A link's own colours do not follow the scheme; a program may set others.
+    const Pairs links = {
+        {"Link", RGB(0, 0, 238), System(COLOR_BTNFACE), false},
+        {"Link, visited", RGB(85, 26, 139), System(COLOR_BTNFACE), false},
+        {"Link, hot", RGB(255, 0, 0), System(COLOR_BTNFACE), false},
+    };
+    pairs.insert(pairs.end(), links.begin(), links.end());
+}
+
+double Linear(int channel) {
+    const double value = channel / 255.0;
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(COLORREF color) {
+    return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
+           0.0722 * Linear(GetBValue(color));
+}
+
+} // namespace
+
+std::vector<ColorPair> ColorPairs() {
+    Pairs pairs;
+    AddControls(pairs);
+    if (IsHighContrast())
+        AddPlainMenus(pairs);
+    else
+        AddMenus(pairs);
+    AddLinks(pairs);
+    return pairs;
+}
+
+double ContrastRatio(COLORREF text, COLORREF background) {
+    const auto [darker, lighter] = std::minmax({Luminance(text), Luminance(background)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
