@@ -6,13 +6,12 @@
 #include <sstream>
 
 std::string FormatTable(const std::vector<Row>& rows) {
-    std::size_t whatWidth = 8;
-    std::size_t againstWidth = 7;
-    bool anyPeak = false;
+    // Wide enough for all that is measured anywhere, so that two programs' rows make one table.
+    std::size_t whatWidth = 40;
+    std::size_t againstWidth = 29;
     for (const Row& row : rows) {
         whatWidth = std::max(whatWidth, row.what.size());
         againstWidth = std::max(againstWidth, row.against.size());
-        anyPeak = anyPeak || row.peakMegabytes > 0;
     }
 
     std::ostringstream out;
@@ -20,11 +19,10 @@ std::string FormatTable(const std::vector<Row>& rows) {
         return out << std::left << std::setw(static_cast<int>(whatWidth)) << what << "  "
                    << std::setw(static_cast<int>(againstWidth)) << against << "  " << std::right;
     };
-    line("measured", "against") << "  ours (us)  theirs (us)  ratio"
-                                << (anyPeak ? "  our peak (MB)" : "") << '\n';
+    line("measured", "against") << "   ours (us)  theirs (us)  ratio  our peak (MB)\n";
     out << std::fixed << std::setprecision(2);
     for (const Row& row : rows) {
-        line(row.what, row.against) << std::setw(11) << row.ours << "  " << std::setw(11)
+        line(row.what, row.against) << std::setw(12) << row.ours << "  " << std::setw(11)
                                     << row.theirs << "  " << std::setw(5) << row.Ratio();
         if (row.peakMegabytes > 0)
             out << "  " << std::setw(13) << row.peakMegabytes;

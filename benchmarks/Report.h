@@ -6,7 +6,7 @@
 
 #include "benchmarks/Comparison.h"
 
-/// The rows as a table for people; peak memory has a column when any of them states it.
+/// The rows as a table for people, with a line of headings; peak memory only where it was measured.
 std::string FormatTable(const std::vector<Row>& rows);
 
 /// The rows as a JSON array of objects: what, against, oursMicroseconds, theirsMicroseconds, ratio, and

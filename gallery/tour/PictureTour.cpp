@@ -62,7 +62,6 @@ void PictureTour::Run() {
     ::SetForegroundWindow(m_gallery);
     // Where no window manager runs, nobody tells the caption that its window is the active one.
     ::SendMessageA(m_gallery, WM_NCACTIVATE, TRUE, 0);
-    const FlatMenus flatMenus;
     constexpr int visited = 3; // schemes; of the others one sheet shows enough
     for (int scheme = 0; scheme < visited; ++scheme) {
         ::SendMessageA(m_gallery, WM_COMMAND, static_cast<WPARAM>(ID_SCHEME_FIRST + scheme), 0);
