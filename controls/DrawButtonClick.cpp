@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The click loop of CDrawButton.
-#include <windowsx.h>
-
 #include "controls/DrawButton.h"
+
+#include <windowsx.h>
 
 namespace {
 
