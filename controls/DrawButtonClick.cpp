@@ -2,7 +2,7 @@
 // The click loop of CDrawButton.
 #include "controls/DrawButton.h"
 
-#include <windowsx.h> // after MFC
+#include <windowsx.h>
 
 namespace {
 
