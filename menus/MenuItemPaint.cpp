@@ -75,9 +75,7 @@ private:
     COLORREF TextColor() const;
     COLORREF CheckedFill() const;
 
-    bool HasGradient() const {
-        return MenuLook::Get().ShowGradient() && BitsPerPixel() > 8;
-    }
+    bool HasGradient() const { return MenuLook::Get().ShowGradient() && BitsPerPixel() > 8; }
 
     int BitsPerPixel() const {
         int& known = GetMenuState().bitsPerPixel;
