@@ -10,6 +10,4 @@
 #include "afx/CImageList.h"
 #include "afx/CListCtrl.h"
 #include "afx/CRichEditCtrl.h"
-#include "afx/CStatusBarCtrl.h"
-#include "afx/CToolBarCtrl.h"
 #include "afx/CToolTipCtrl.h"

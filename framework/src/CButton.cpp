@@ -62,24 +62,12 @@ HCURSOR CButton::GetCursor() {
     return Send<HCURSOR>(*this, BM_GETIMAGE, IMAGE_CURSOR);
 }
 
-BOOL CButton::GetIdealSize(SIZE* psize) {
-    return Send<BOOL>(*this, BCM_GETIDEALSIZE, 0, psize);
-}
-
 BOOL CButton::SetImageList(PBUTTON_IMAGELIST pbuttonImagelist) {
     return Send<BOOL>(*this, BCM_SETIMAGELIST, 0, pbuttonImagelist);
 }
 
 BOOL CButton::GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) {
     return Send<BOOL>(*this, BCM_GETIMAGELIST, 0, pbuttonImagelist);
-}
-
-BOOL CButton::SetTextMargin(RECT* pmargin) {
-    return Send<BOOL>(*this, BCM_SETTEXTMARGIN, 0, pmargin);
-}
-
-BOOL CButton::GetTextMargin(RECT* pmargin) {
-    return Send<BOOL>(*this, BCM_GETTEXTMARGIN, 0, pmargin);
 }
 
 void CButton::DrawItem(LPDRAWITEMSTRUCT) {}

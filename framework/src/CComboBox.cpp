@@ -159,18 +159,6 @@ BOOL CComboBox::GetDroppedState() const {
     return Send<BOOL>(*this, CB_GETDROPPEDSTATE);
 }
 
-void CComboBox::GetDroppedControlRect(LPRECT lprect) const {
-    Send(*this, CB_GETDROPPEDCONTROLRECT, 0, lprect);
-}
-
-int CComboBox::GetDroppedWidth() const {
-    return Send<int>(*this, CB_GETDROPPEDWIDTH);
-}
-
-int CComboBox::SetDroppedWidth(UINT nWidth) {
-    return Send<int>(*this, CB_SETDROPPEDWIDTH, nWidth);
-}
-
 int CComboBox::GetTopIndex() const {
     return Send<int>(*this, CB_GETTOPINDEX);
 }
@@ -193,22 +181,6 @@ UINT CComboBox::GetHorizontalExtent() const {
 
 void CComboBox::SetHorizontalExtent(UINT nExtent) {
     Send(*this, CB_SETHORIZONTALEXTENT, nExtent);
-}
-
-int CComboBox::GetMinVisible() const {
-    return Send<int>(*this, CB_GETMINVISIBLE);
-}
-
-BOOL CComboBox::SetMinVisibleItems(int iMinVisible) {
-    return Send<BOOL>(*this, CB_SETMINVISIBLE, iMinVisible);
-}
-
-BOOL CComboBox::GetExtendedUI() const {
-    return Send<BOOL>(*this, CB_GETEXTENDEDUI);
-}
-
-int CComboBox::SetExtendedUI(BOOL bExtended) {
-    return Send<int>(*this, CB_SETEXTENDEDUI, bExtended);
 }
 
 BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const {

@@ -2,6 +2,7 @@
 #include <afxext.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "BarAccess.h"
 #include "Handles.h"

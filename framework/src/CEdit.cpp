@@ -39,40 +39,8 @@ void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
     }
 }
 
-void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo) {
-    Send(*this, EM_REPLACESEL, bCanUndo, lpszNewText);
-}
-
-BOOL CEdit::GetModify() const {
-    return Send<BOOL>(*this, EM_GETMODIFY);
-}
-
-void CEdit::SetModify(BOOL bModified) {
-    Send(*this, EM_SETMODIFY, bModified);
-}
-
-UINT CEdit::GetLimitText() const {
-    return Send<UINT>(*this, EM_GETLIMITTEXT);
-}
-
-void CEdit::SetLimitText(UINT nMax) {
-    Send(*this, EM_SETLIMITTEXT, nMax);
-}
-
 void CEdit::LimitText(int nChars) {
     Send(*this, EM_LIMITTEXT, nChars);
-}
-
-TCHAR CEdit::GetPasswordChar() const {
-    return Send<TCHAR>(*this, EM_GETPASSWORDCHAR);
-}
-
-void CEdit::SetPasswordChar(TCHAR ch) {
-    Send(*this, EM_SETPASSWORDCHAR, static_cast<BYTE>(ch));
-}
-
-BOOL CEdit::SetReadOnly(BOOL bReadOnly) {
-    return Send<BOOL>(*this, EM_SETREADONLY, bReadOnly);
 }
 
 BOOL CEdit::SetCueBanner(LPCWSTR lpszText) {
@@ -80,10 +48,6 @@ BOOL CEdit::SetCueBanner(LPCWSTR lpszText) {
 }
 
 // ---- Lines --------------------------------------------------------------------------------------
-
-int CEdit::GetLineCount() const {
-    return Send<int>(*this, EM_GETLINECOUNT);
-}
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const {
     return Send<int>(*this, EM_GETLINE, nIndex, lpszBuffer);
@@ -100,28 +64,8 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const {
     return GetLine(nIndex, lpszBuffer);
 }
 
-int CEdit::LineIndex(int nLine) const {
-    return Send<int>(*this, EM_LINEINDEX, nLine);
-}
-
 int CEdit::LineLength(int nLine) const {
     return Send<int>(*this, EM_LINELENGTH, nLine);
-}
-
-int CEdit::LineFromChar(int nIndex) const {
-    return Send<int>(*this, EM_LINEFROMCHAR, nIndex);
-}
-
-void CEdit::LineScroll(int nLines, int nChars) {
-    Send(*this, EM_LINESCROLL, nChars, nLines);
-}
-
-int CEdit::GetFirstVisibleLine() const {
-    return Send<int>(*this, EM_GETFIRSTVISIBLELINE);
-}
-
-BOOL CEdit::FmtLines(BOOL bAddEOL) {
-    return Send<BOOL>(*this, EM_FMTLINES, bAddEOL);
 }
 
 // ---- Layout -------------------------------------------------------------------------------------
@@ -134,18 +78,6 @@ void CEdit::SetRect(LPCRECT lpRect) {
     Send(*this, EM_SETRECT, 0, lpRect);
 }
 
-void CEdit::SetRectNP(LPCRECT lpRect) {
-    Send(*this, EM_SETRECTNP, 0, lpRect);
-}
-
-DWORD CEdit::GetMargins() const {
-    return Send<DWORD>(*this, EM_GETMARGINS);
-}
-
-void CEdit::SetMargins(UINT nLeft, UINT nRight) {
-    Send(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(nLeft, nRight));
-}
-
 void CEdit::SetTabStops() {
     Send(*this, EM_SETTABSTOPS);
 }
@@ -156,14 +88,6 @@ BOOL CEdit::SetTabStops(const int& cxEachStop) {
 
 BOOL CEdit::SetTabStops(int nTabStops, LPINT rgTabStops) {
     return Send<BOOL>(*this, EM_SETTABSTOPS, nTabStops, rgTabStops);
-}
-
-int CEdit::CharFromPos(CPoint pt) const {
-    return Send<int>(*this, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y));
-}
-
-CPoint CEdit::PosFromChar(UINT nChar) const {
-    return CPoint(Send<LPARAM>(*this, EM_POSFROMCHAR, nChar));
 }
 
 // ---- Clipboard and undo -------------------------------------------------------------------------
@@ -184,14 +108,6 @@ void CEdit::Paste() {
     Send(*this, WM_PASTE);
 }
 
-BOOL CEdit::CanUndo() const {
-    return Send<BOOL>(*this, EM_CANUNDO);
-}
-
 BOOL CEdit::Undo() {
     return Send<BOOL>(*this, EM_UNDO);
-}
-
-void CEdit::EmptyUndoBuffer() {
-    Send(*this, EM_EMPTYUNDOBUFFER);
 }

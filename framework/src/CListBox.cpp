@@ -114,36 +114,6 @@ int CListBox::SetSel(int nIndex, BOOL bSelect) {
     return Send<int>(*this, LB_SETSEL, bSelect, nIndex);
 }
 
-int CListBox::GetSelCount() const {
-    return Send<int>(*this, LB_GETSELCOUNT);
-}
-
-int CListBox::GetSelItems(int nMaxItems, LPINT rgIndex) const {
-    return Send<int>(*this, LB_GETSELITEMS, nMaxItems, rgIndex);
-}
-
-int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem) {
-    // The message reads an end before the start as the order to take the selection away.
-    return bSelect ? Send<int>(*this, LB_SELITEMRANGEEX, nFirstItem, nLastItem)
-                   : Send<int>(*this, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
-}
-
-int CListBox::GetAnchorIndex() const {
-    return Send<int>(*this, LB_GETANCHORINDEX);
-}
-
-void CListBox::SetAnchorIndex(int nIndex) {
-    Send(*this, LB_SETANCHORINDEX, nIndex);
-}
-
-int CListBox::GetCaretIndex() const {
-    return Send<int>(*this, LB_GETCARETINDEX);
-}
-
-int CListBox::SetCaretIndex(int nIndex, BOOL bScroll) {
-    return Send<int>(*this, LB_SETCARETINDEX, nIndex, MAKELPARAM(bScroll, 0));
-}
-
 // ---- Layout -------------------------------------------------------------------------------------
 
 int CListBox::GetTopIndex() const {
@@ -164,12 +134,6 @@ int CListBox::SetItemHeight(int nIndex, UINT cyItemHeight) {
 
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const {
     return Send<int>(*this, LB_GETITEMRECT, nIndex, lpRect);
-}
-
-UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const {
-    const auto found = Send<DWORD>(*this, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
-    bOutside = HIWORD(found) != 0;
-    return LOWORD(found);
 }
 
 int CListBox::GetHorizontalExtent() const {
@@ -194,10 +158,6 @@ BOOL CListBox::SetTabStops(const int& cxEachStop) {
 
 BOOL CListBox::SetTabStops(int nTabStops, LPINT rgTabStops) {
     return Send<BOOL>(*this, LB_SETTABSTOPS, nTabStops, rgTabStops);
-}
-
-DWORD CListBox::GetListBoxInfo() const {
-    return Send<DWORD>(*this, LB_GETLISTBOXINFO);
 }
 
 // ---- Self-drawing ------------------------------------------------------------------------------

@@ -34,7 +34,7 @@ UINT ControlStyle(UINT style) {
 
 } // namespace
 
-CStatusBar::CStatusBar() : m_minHeight(0), m_control(std::make_unique<CStatusBarCtrl>()) {
+CStatusBar::CStatusBar() : m_minHeight(0) {
     SetBorders();
 }
 
@@ -58,12 +58,6 @@ BOOL CStatusBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UI
     }
     SetOwner(pParentWnd);
     return TRUE;
-}
-
-CStatusBarCtrl& CStatusBar::GetStatusBarCtrl() const {
-    // Not attached: the window's object is the bar.
-    m_control->m_hWnd = m_hWnd;
-    return *m_control;
 }
 
 // ---- Panes --------------------------------------------------------------------------------------

@@ -49,9 +49,7 @@ TBBUTTON NewButton(UINT id, int image) {
 
 } // namespace
 
-CToolBar::CToolBar()
-    : m_buttonSize(24, 22), m_imagesModule(nullptr), m_imagesId(nullptr),
-      m_control(std::make_unique<CToolBarCtrl>()) {}
+CToolBar::CToolBar() : m_buttonSize(24, 22), m_imagesModule(nullptr), m_imagesId(nullptr) {}
 
 CToolBar::~CToolBar() {
     // The control asks its bitmap to the last.
@@ -80,12 +78,6 @@ BOOL CToolBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, CRec
     DefWindowProc(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
     SetSizes(m_buttonSize, m_sizeImage);
     return TRUE;
-}
-
-CToolBarCtrl& CToolBar::GetToolBarCtrl() const {
-    // Not attached: the window's object is the bar.
-    m_control->m_hWnd = m_hWnd;
-    return *m_control;
 }
 
 void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {

@@ -29,11 +29,8 @@ public:
     HCURSOR SetCursor(HCURSOR hCursor);
     HCURSOR GetCursor();
 
-    BOOL GetIdealSize(SIZE* psize);
     BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
     BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
-    BOOL SetTextMargin(RECT* pmargin);
-    BOOL GetTextMargin(RECT* pmargin);
 
     /// Draws a button with BS_OWNERDRAW. Override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

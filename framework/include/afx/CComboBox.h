@@ -58,10 +58,6 @@ public:
     /// @{
     void ShowDropDown(BOOL bShowIt = TRUE);
     BOOL GetDroppedState() const;
-    /// In screen coordinates.
-    void GetDroppedControlRect(LPRECT lprect) const;
-    int GetDroppedWidth() const;
-    int SetDroppedWidth(UINT nWidth);
     int GetTopIndex() const;
     int SetTopIndex(int nIndex);
     /// @param nIndex -1 for the field itself.
@@ -69,10 +65,6 @@ public:
     int SetItemHeight(int nIndex, UINT cyItemHeight);
     UINT GetHorizontalExtent() const;
     void SetHorizontalExtent(UINT nExtent);
-    int GetMinVisible() const;
-    BOOL SetMinVisibleItems(int iMinVisible);
-    BOOL GetExtendedUI() const;
-    int SetExtendedUI(BOOL bExtended = TRUE);
     BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const;
     /// @}
 

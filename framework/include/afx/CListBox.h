@@ -41,13 +41,6 @@ public:
     int SelectString(int nStartAfter, LPCTSTR lpszItem);
     int GetSel(int nIndex) const;
     int SetSel(int nIndex, BOOL bSelect = TRUE);
-    int GetSelCount() const;
-    int GetSelItems(int nMaxItems, LPINT rgIndex) const;
-    int SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem);
-    int GetAnchorIndex() const;
-    void SetAnchorIndex(int nIndex);
-    int GetCaretIndex() const;
-    int SetCaretIndex(int nIndex, BOOL bScroll = TRUE);
     /// @}
 
     /// @name Layout
@@ -57,14 +50,12 @@ public:
     int GetItemHeight(int nIndex) const;
     int SetItemHeight(int nIndex, UINT cyItemHeight);
     int GetItemRect(int nIndex, LPRECT lpRect) const;
-    UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
     int GetHorizontalExtent() const;
     void SetHorizontalExtent(int cxExtent);
     void SetColumnWidth(int cxWidth);
     void SetTabStops();
     BOOL SetTabStops(const int& cxEachStop);
     BOOL SetTabStops(int nTabStops, LPINT rgTabStops);
-    DWORD GetListBoxInfo() const;
     /// @}
 
     /// @name An owner-draw list box draws itself through these

@@ -6,10 +6,7 @@
 #include "afx/CControlBar.h"
 #include "afxres.h"
 
-#include <memory>
 #include <vector>
-
-class CStatusBarCtrl;
 
 /// A status bar: its window is a status bar control. A pane is named by its position from zero.
 ///
@@ -48,8 +45,6 @@ public:
     BOOL SetPaneText(int nIndex, LPCTSTR lpszNewText, BOOL bUpdate = TRUE);
     /// Called for a pane with SBPS_OWNERDRAW.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
-    /// The control; valid as long as the bar.
-    CStatusBarCtrl& GetStatusBarCtrl() const;
 
     CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
@@ -85,5 +80,4 @@ private:
 
     int m_minHeight;
     std::vector<Pane> m_panes;
-    const std::unique_ptr<CStatusBarCtrl> m_control;
 };

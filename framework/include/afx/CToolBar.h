@@ -7,10 +7,6 @@
 #include "afx/ToolBarLayout.h"
 #include "afxres.h"
 
-#include <memory>
-
-class CToolBarCtrl;
-
 /// A toolbar: its window is a toolbar control ("ToolbarWindow32").
 ///
 /// The images of all buttons stand side by side in one bitmap. The standard greys of a bitmap that
@@ -51,8 +47,6 @@ public:
     void SetButtonInfo(int nIndex, UINT nID, UINT nStyle, int iImage);
     UINT GetButtonStyle(int nIndex) const;
     void SetButtonStyle(int nIndex, UINT nStyle);
-    /// The control; valid as long as the bar.
-    CToolBarCtrl& GetToolBarCtrl() const;
 
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
@@ -78,5 +72,4 @@ private:
     HINSTANCE m_imagesModule;
     LPCTSTR m_imagesId;
     CString m_imagesName;
-    const std::unique_ptr<CToolBarCtrl> m_control;
 };
