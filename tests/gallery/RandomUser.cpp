@@ -50,13 +50,15 @@ LONG CALLBACK TellOnCrash(EXCEPTION_POINTERS* exception) {
 /// The shown top-level windows of this process, the topmost first.
 std::vector<HWND> ShownWindows() {
     std::vector<HWND> windows;
-    HWND window = nullptr;
-    while ((window = ::FindWindowExA(nullptr, window, nullptr, nullptr)) != nullptr) {
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
-            windows.push_back(window);
-    }
+    ::EnumWindows(
+        [](HWND window, LPARAM found) {
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(window, &process);
+            if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
+                reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 
