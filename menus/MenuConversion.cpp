@@ -182,7 +182,6 @@ void CMenuXP::ConvertMenu(CWnd* window, HMENU menu, bool enable, bool menuBar) {
         return;
     tint::Contained([=] {
         tint::MenuRecords::Get().PurgeDeadSubmenus();
-        tint::GetMenuState().bitsPerPixel = 0; // may have changed since the last menu
         tint::CommandImages images;
         if (window != nullptr && !menuBar) {
             if (IsSystemMenuOfActiveChild(window, menu)) {

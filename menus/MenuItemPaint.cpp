@@ -67,13 +67,8 @@ private:
     COLORREF TextColor() const;
     COLORREF CheckedFill() const;
 
-    bool HasGradient() const { return MenuLook::Get().ShowGradient() && BitsPerPixel() > 8; }
-
-    int BitsPerPixel() const {
-        int& known = GetMenuState().bitsPerPixel;
-        if (known == 0)
-            known = m_dc.GetDeviceCaps(BITSPIXEL);
-        return known;
+    bool HasGradient() const {
+        return MenuLook::Get().ShowGradient() && m_dc.GetDeviceCaps(BITSPIXEL) > 8;
     }
 
     /// The rectangle without the strip that is kept for a bar item's shadow.

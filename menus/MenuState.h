@@ -15,10 +15,6 @@ struct MenuState {
     /// Goes up with every item painted, and around.  Whether it changed tells whether an item was
     /// painted in the meantime.
     BYTE paintCount = 0;
-
-    /// Depth of the display, bits; 0: to be asked.  Asked once for each popup that opens and not for
-    /// each of its items: the answer takes the system about a third of the time an item does.
-    int bitsPerPixel = 0;
 };
 
 inline MenuState& GetMenuState() {
