@@ -9,7 +9,7 @@
 #include "automation/Picture.h"
 
 /// Walks through the gallery as a person would, with real mouse and keyboard input, and writes a
-/// picture of every scene under every scheme of system colours.
+/// picture of every scene under three schemes of system colours, and one sheet of all schemes.
 ///
 /// It runs on a thread of its own, so that the window's thread handles the input exactly as always;
 /// it touches the windows only through their handles.

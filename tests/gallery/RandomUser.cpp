@@ -7,6 +7,7 @@
 #include <afxpriv.h>
 #include <afxres.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdio>
@@ -47,18 +48,26 @@ LONG CALLBACK TellOnCrash(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
-/// The shown top-level windows of this process, the topmost first.
-std::vector<HWND> ShownWindows() {
+/// The top-level windows of this process, the topmost first.
+std::vector<HWND> TopWindows() {
     std::vector<HWND> windows;
     ::EnumWindows(
         [](HWND window, LPARAM found) {
             DWORD process = 0;
             ::GetWindowThreadProcessId(window, &process);
-            if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
+            if (process == ::GetCurrentProcessId())
                 reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+std::vector<HWND> ShownWindows() {
+    std::vector<HWND> windows = TopWindows();
+    windows.erase(std::remove_if(windows.begin(), windows.end(),
+                                 [](HWND window) { return !::IsWindowVisible(window); }),
+                  windows.end());
     return windows;
 }
 
@@ -313,7 +322,7 @@ void RandomUser::CalmDown() {
 
 void RandomUser::Settle() {
     CalmDown();
-    for (const HWND window : ShownWindows())
+    for (const HWND window : TopWindows()) // it may be hidden: the gallery was minimized
         if (window != m_gallery && (::GetWindowLongA(window, GWL_STYLE) & WS_CAPTION) != 0 &&
             TextOf(window) == "Menus")
             ::SendMessageA(window, WM_CLOSE, 0, 0);
