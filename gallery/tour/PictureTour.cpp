@@ -150,6 +150,9 @@ void PictureTour::ChooseScene(const char* title) const {
     automation::MoveMouse(middle);
     automation::PressMouse();
     automation::ReleaseMouse();
+    // On a busy machine the window may look at rest before the click has reached it.
+    for (int look = 0; look < 500 && ::SendMessageA(list, LB_GETCURSEL, 0, 0) != index; ++look)
+        ::Sleep(20);
     automation::WaitUntilSteady(m_gallery);
 }
 
