@@ -36,16 +36,23 @@ function(tintkit_add_program name)
     tintkit_configure(${name})
 endfunction()
 
-# tintkit_add_test(NAME TIMEOUT SECONDS SOURCES ... LIBRARIES ...): the program NAME_test, run as
-# one test. A message box that waits for ever is ended by the time limit; a crash is a failure.
+# tintkit_add_test(NAME [RETRIES_WINE_FAULTS] TIMEOUT SECONDS SOURCES ... LIBRARIES ...): the program
+# NAME_test, run as one test. A message box that waits for ever is ended by the time limit; a crash is
+# a failure. With RETRIES_WINE_FAULTS, a run that an assertion of Wine's own has ended is repeated.
 function(tintkit_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "RETRIES_WINE_FAULTS" "TIMEOUT" "SOURCES;LIBRARIES")
     if(WIN32)
         list(APPEND arg_SOURCES "${PROJECT_SOURCE_DIR}/tests/support/CrashGuard.cpp")
     endif()
     tintkit_add_program(${name}_test ${arg_SOURCES})
     target_link_libraries(${name}_test PRIVATE ${arg_LIBRARIES})
-    add_test(NAME ${TINTKIT_TEST_PREFIX}${name} COMMAND ${name}_test)
+    if(arg_RETRIES_WINE_FAULTS AND CMAKE_CROSSCOMPILING_EMULATOR)
+        add_test(NAME ${TINTKIT_TEST_PREFIX}${name} COMMAND
+            "${PROJECT_SOURCE_DIR}/tests/support/retry_wine_fault.py"
+            ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}_test>)
+    else()
+        add_test(NAME ${TINTKIT_TEST_PREFIX}${name} COMMAND ${name}_test)
+    endif()
     set_tests_properties(${TINTKIT_TEST_PREFIX}${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
     if(WIN32)
         # There is one keyboard, one mouse and one foreground window.
