@@ -21,10 +21,19 @@ bool IsFatal(DWORD code) {
     }
 }
 
+/// Writes a number in 16 hexadecimal digits.
+void WriteHex(char* digits, ULONG_PTR value) {
+    for (int i = 15; i >= 0; --i, value >>= 4)
+        digits[i] = "0123456789abcdef"[value & 0xF];
+}
+
 /// Takes no more than what is left of the stack after an overflow.
 LONG CALLBACK EndOnCrash(EXCEPTION_POINTERS* exception) {
     if (IsFatal(exception->ExceptionRecord->ExceptionCode)) {
-        static const char text[] = "The test program has crashed.\n";
+        // The address tells whose code it was: the program lies at 140000000.
+        static char text[] = "The test program has crashed at ................\n";
+        WriteHex(text + sizeof text - 18,
+                 reinterpret_cast<ULONG_PTR>(exception->ExceptionRecord->ExceptionAddress));
         DWORD written = 0;
         ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), text, sizeof text - 1, &written, nullptr);
         ::TerminateProcess(::GetCurrentProcess(), 3); // as abort() does
