@@ -25,7 +25,7 @@ using automation::MouseButton;
 namespace {
 
 /// Text that a crash handler can print: it is there before the crash and takes no memory.
-std::array<char[80], 16> g_lastInputs;
+std::array<char[80], 40> g_lastInputs;
 unsigned g_inputs = 0;
 
 constexpr WORD kMark = VK_F24; // a key that nobody uses: what was sent before it has been handled
@@ -91,6 +91,18 @@ std::string Describe(HWND window) {
            (::IsWindowEnabled(window) ? "" : ", disabled");
 }
 
+std::string DescribeShown() {
+    std::string text;
+    for (const HWND window : ShownWindows()) {
+        RECT rect = {};
+        ::GetWindowRect(window, &rect);
+        text += "  shown: " + Describe(window) + " at " + std::to_string(rect.left) + ", " +
+                std::to_string(rect.top) + ", " + std::to_string(rect.right - rect.left) + "x" +
+                std::to_string(rect.bottom - rect.top) + "\n";
+    }
+    return text;
+}
+
 /// What the window's thread is doing; asks no window.
 std::string DescribeState(HWND gallery) {
     GUITHREADINFO state = {};
@@ -100,7 +112,7 @@ std::string DescribeState(HWND gallery) {
            "\n  focus: " + Describe(state.hwndFocus) +
            "\n  capture: " + Describe(state.hwndCapture) +
            "\n  menu's owner: " + Describe(state.hwndMenuOwner) +
-           "\n  foreground: " + Describe(::GetForegroundWindow()) + "\n";
+           "\n  foreground: " + Describe(::GetForegroundWindow()) + "\n" + DescribeShown();
 }
 
 bool IsMenu(HWND window) {
@@ -204,8 +216,6 @@ void RandomUser::OpenMenu() {
 }
 
 void RandomUser::Command() {
-    if (IsBusy())
-        return;
     constexpr struct {
         WORD first, last;
     } ranges[] = {
@@ -217,7 +227,8 @@ void RandomUser::Command() {
     };
     const auto& range = ranges[Below(std::size(ranges))];
     const int command = range.first + Below(range.last - range.first + 1);
-    Post(WM_COMMAND, static_cast<WPARAM>(command));
+    if (!IsBusy())
+        Post(WM_COMMAND, static_cast<WPARAM>(command));
 }
 
 void RandomUser::ChangeScheme() {
@@ -289,10 +300,11 @@ void RandomUser::OpenMenusFrame() {
 
 void RandomUser::CalmDown() {
     WaitUntilHandled();
+    const std::string lastInputs = LastInputs();
     constexpr int most = 40;
     for (int look = 0; look <= most; ++look) {
         if (look == most)
-            m_surprises += "it does not calm down: " + DescribeState(m_gallery) + LastInputs();
+            m_surprises += "it does not calm down: " + DescribeState(m_gallery) + lastInputs;
         const std::vector<HWND> shown = ShownWindows();
         bool open = IsBusy();
         for (const HWND window : shown) {
@@ -370,8 +382,11 @@ automation::Picture RandomUser::PictureOf(const char* scene) {
 
 // ---- Parts --------------------------------------------------------------------------------------
 
-/// In a menu or a dialog, where nobody can give commands.
-bool RandomUser::IsBusy() const {
+/// In a menu or a dialog, where nobody can give commands.  Asks when all input has been handled: a
+/// command that meets a menu just opening would open a window within the menu's loop, and Wine leaves
+/// a popup behind when a second menu is used in there.
+bool RandomUser::IsBusy() {
+    WaitUntilHandled();
     GUITHREADINFO state = {};
     state.cbSize = sizeof state;
     ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_gallery, nullptr), &state);
@@ -428,8 +443,8 @@ void RandomUser::OnMessage(const MSG& message) {
 void RandomUser::WaitUntilHandled() {
     const int before = g_marks;
     automation::TypeKey(kMark);
-    for (int look = 0; look < 500 && g_marks == before; ++look)
-        ::Sleep(10);
+    for (int look = 0; look < 5000 && g_marks == before; ++look)
+        ::Sleep(1);
     ExpectAnswer();
 }
 

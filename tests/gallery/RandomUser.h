@@ -57,7 +57,7 @@ private:
     void DragToolBar();
     void OpenMenusFrame();
 
-    bool IsBusy() const;
+    bool IsBusy();
     int Below(int limit);
     POINT SomewhereIn(HWND window);
     HWND AnyWindow();
