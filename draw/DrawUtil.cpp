@@ -38,6 +38,10 @@ void DrawArrowTriangle(HDC dc, int x, int y, int size, bool down) {
 }
 
 HBITMAP CopyScreenToBitmap(const RECT& rect) {
+    // For one the system would hand out a stock bitmap, which is nobody's to own: on the clipboard, which
+    // deletes what it got, it would take the bitmap of every new memory DC along.
+    if (::IsRectEmpty(&rect))
+        return nullptr;
     const ScreenDC screen(::GetDC(nullptr));
     if (!screen)
         return nullptr;

@@ -15,5 +15,5 @@ void DrawArrowTriangle(HDC dc, int x, int y, int size, bool down);
 /// Copies what the screen shows; what lies off the screen stays black.
 /// @param rect  screen coordinates
 /// @return a screen-compatible bitmap of the size of `rect`, owned by the caller (DeleteObject); null
-///         when it cannot be made
+///         when it cannot be made or the rectangle is empty
 HBITMAP CopyScreenToBitmap(const RECT& rect);

@@ -52,7 +52,8 @@ TEST(CopyScreenToBitmap, CopiesWhatTheScreenShows) {
     GdiLedger ledger;
     const HBITMAP bitmap = CopyScreenToBitmap(place);
     EXPECT_TRUE(isThere(automation::ReadBitmap(bitmap)));
-    EXPECT_EQ(CopyScreenToBitmap({0, 0, 0x7FFFFFF0, 0x7FFFFFF0}), nullptr);
+    for (const RECT& none : {RECT{0, 0, 0x7FFFFFF0, 0x7FFFFFF0}, {5, 5, 5, 9}, {5, 5, 9, 5}})
+        EXPECT_EQ(CopyScreenToBitmap(none), nullptr) << "not the system's stock bitmap either";
     EXPECT_EQ(ledger.Unreturned(), "CreateCompatibleBitmap x1\n") << "the caller's, and no other";
     ::DeleteObject(bitmap);
     EXPECT_EQ(ledger.Faults(), "");
