@@ -155,9 +155,9 @@ int FromEnvironment(const char* name, int otherwise) {
     return value == nullptr ? otherwise : std::atoi(value);
 }
 
-TEST(Endurance, TheGalleryIsAsBeforeAfterRandomInputs) {
+TEST(Endurance, TheGalleryIsAsBeforeAfterTenThousandRandomInputs) {
     const unsigned seed = FromEnvironment("TINTKIT_ENDURANCE_SEED", 1);
-    const int inputs = FromEnvironment("TINTKIT_ENDURANCE_INPUTS", 2000);
+    const int inputs = FromEnvironment("TINTKIT_ENDURANCE_INPUTS", 10000);
     std::printf("seed %u, %d inputs (TINTKIT_ENDURANCE_SEED, TINTKIT_ENDURANCE_INPUTS)\n", seed,
                 inputs);
     AfxInitRichEdit2();
