@@ -9,8 +9,9 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 
 # COMPILE_LANGUAGE keeps the compiler's options away from the resource compiler.
 if(MSVC)
+    # Not /WX: no warning of a compiler that we have not tried is to stop a user's build.
     target_compile_options(tintkit_settings INTERFACE
-        $<$<COMPILE_LANGUAGE:CXX>:/W4 /WX /permissive- /utf-8 /external:anglebrackets /external:W0>)
+        $<$<COMPILE_LANGUAGE:CXX>:/W4 /permissive- /utf-8 /external:anglebrackets /external:W0>)
 else()
     target_compile_options(tintkit_settings INTERFACE
         $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Werror>)

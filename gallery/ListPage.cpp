@@ -115,9 +115,9 @@ void CListPage::StyleRows() {
     LOGFONT font = {};
     m_list.GetFont()->GetLogFont(&font);
     font.lfHeight = font.lfHeight * 4 / 5;
-    CFont small;
-    small.CreateFontIndirect(&font);
-    m_list.SetRowFont(kOwnFont, small);
+    CFont smaller;
+    smaller.CreateFontIndirect(&font);
+    m_list.SetRowFont(kOwnFont, smaller);
 }
 
 void CListPage::StyleCells() {

@@ -10,11 +10,14 @@
 /// header.  Pixels of 16 and 32 bits become 24-bit ones.
 ///
 /// Some files are deliberately read in a way of our own:
-/// - 16-bit samples are shifted, not scaled; see tint::FieldConverter16 for masks of unequal width;
+/// - 16-bit samples are shifted, not scaled: full 5-bit red gives 248; masks other than 5-5-5 and 5-6-5
+///   may give other colours than they say;
 /// - the masks of 32-bit files are ignored: bytes 0 to 2 of a pixel are blue, green and red;
 /// - headers longer than 40 bytes, but for the 64 of OS/2, are accepted only without compression and
 ///   with no palette stated, if their image size is exactly that of bottom-up rows;
-/// - run lengths: see tint::DecodeRle8 and tint::Rle4Reading::kByTargetHalf;
+/// - RLE8: an encoded run that passes the end of its padded row ends the decode;
+/// - RLE4: a run that begins at an odd pixel starts with its second sample, and a delta moves by an even
+///   number of pixels;
 /// - depths other than those above give a picture of zeros, and success;
 /// - a resolution of 0 is kept as 0 dpi;
 /// - pixel data that end early leave the rest of the picture zero, and give success.
@@ -40,8 +43,8 @@ public:
     /// packed from the first byte on; 32-bit ones lie elsewhere.
     /// @param image     created with 24 bits, otherwise nothing happens
     /// @param source    all rows of a picture of the image's size
-    /// @param redMask   with the green and blue mask the samples of a 16-bit pixel, see
-    ///                  tint::FieldConverter16; ignored for 32 bits
+    /// @param redMask   with the green and blue mask the samples of a 16-bit pixel, read as above;
+    ///                  ignored for 32 bits
     /// @param bitCount  16 or 32, otherwise nothing happens
     static void ConvertBitfields(IsImage& image, const uint8_t* source, uint16_t redMask,
                                  uint16_t greenMask, uint16_t blueMask, uint8_t bitCount);

@@ -119,8 +119,10 @@ bool IsImage::DestroyImage() {
     return true;
 }
 
+/// Whether `other` is a view of this image, if only of an empty one, or they have a buffer in common.
 bool IsImage::SharesBuffers(const IsImage& other) const {
-    return (dib && dib == other.dib) || (sideBuffer && sideBuffer == other.sideBuffer);
+    return other.info.ghostOf == this || (dib && dib == other.dib) ||
+           (sideBuffer && sideBuffer == other.sideBuffer);
 }
 
 void IsImage::Ghost(IsImage* source) {

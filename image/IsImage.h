@@ -103,9 +103,12 @@ public:
     /// empty, or whose buffers someone else has taken.
     void Startup(uint32_t type);
     /// Replaces the content by a picture of zeros with a palette of zeros.
-    /// @param bitCount  depth asked for, see tint::StoredBitCount for the depth that is stored
-    /// @return the block; null with the image empty when it is a ghost, the size is refused
-    ///         (tint::LayOutDib) or memory is out
+    ///
+    /// A size is refused when a side is 0 or beyond 31 bits, a row has 2^32 bits or more, or the block
+    /// exceeds 2 GiB - 1 or one of the tint::DecodeLimits.
+    /// @param bitCount  depth asked for: up to 1 is stored as 1, up to 4 as 4, up to 8 as 8, more as 24
+    /// @return the block; null with LastErrorText set when the size is refused or memory is out, which
+    ///         leaves the image empty, and for a ghost, which stays as it is
     uint8_t* CreateImage(uint32_t width, uint32_t height, uint32_t bitCount,
                          uint32_t type = tint::kFormatUnknown);
     /// Frees the content.  @return false for a ghost, which is left as it is
@@ -143,7 +146,7 @@ public:
     /// @param overflow       what lies beyond the edges, a tint::Overflow (Resample.h)
     /// @param target         receives the result; null replaces this image's own content
     /// @return false, with LastErrorText set and both images as they were, for an empty image, a size
-    ///         below 1 or refused (tint::LayOutDib), a ghost that would receive the result, or when
+    ///         below 1 or refused (CreateImage), a ghost that would receive the result, or when
     ///         memory is out
     bool Resample(int32_t newWidth, int32_t newHeight, int32_t interpolation, int32_t overflow,
                   IsImage* target = nullptr, bool disableAveraging = false);

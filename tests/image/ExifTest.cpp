@@ -158,13 +158,14 @@ TEST(ExifFields, FollowTheirRules) {
     const auto unit = [](auto& i) -> double { return i.resolutionUnit; };
     const auto orientation = [](auto& i) -> double { return i.orientation; };
     const auto flash = [](auto& i) -> double { return i.flashUsed; };
+    const auto sensor = [](auto& i) -> double { return i.ccdWidth; };
     const struct {
         std::vector<Entry> entries;
         double (*field)(const ExifInfo&);
         double value;
         const char* oddity = "";
     } cases[] = {
-        {{b.Short(0x112, 8)}, orientation, 8},
+        {{b.Short(0x112, 8)}, orientation, 8}, {{b.Short(0x112, 1)}, orientation, 1},
         {{b.Short(0x112, 3), b.Short(0x112, 9)}, orientation, 0, "Undefined rotation value"},
         {{b.Short(0x112, 0)}, orientation, 0, "Undefined rotation value"},
         {{b.Short(0x8827, 1)}, speed, 200}, {{b.Short(0x8827, 49)}, speed, 9800}, // codes
@@ -180,6 +181,7 @@ TEST(ExifFields, FollowTheirRules) {
         {{b.Short(0x128, 5)}, unit, 3.937007932108827e-05},
         {{b.Short(0x128, 1)}, unit, 1}, {{b.Short(0x128, 2), b.Short(0x128, 6)}, unit, 1},
         {{{0x11A, kDouble, 0, {}}}, unit, 0}, // a field of no values at the end
+        {{b.Long(0xA002, 3000), b.Short(0xA210, 3)}, sensor, 0}, // pixels of no known width
     };
     for (const auto& c : cases) {
         const Read read(b.Block(c.entries));
@@ -238,6 +240,7 @@ TEST(ExifBlocks, DamageIsNamed) {
         {kLink, b.Block({b.Long(0x8769, end + 1)})},
         {kLink, b.Block({b.Long(0xA005, 0xFFFFFFFF)})},
         {kLink, b.Block({b.Short(0x112, 1)}, end + 1)},
+        {kLink, Cut(b.Block({b.Short(0x112, 1)}, end + 1), 6 + end - 2)}, // half a link is enough
     };
     for (const auto& c : cases) {
         const Read read(c.block);

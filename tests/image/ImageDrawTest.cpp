@@ -2,75 +2,35 @@
 //
 // Painting on device contexts.
 #include "image/IsImage.h"
+#include "tests/support/Canvas.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <map>
 #include <string>
 
 namespace {
 
-constexpr COLORREF kUntouched = RGB(255, 0, 255);
-
-/// A device context on 32-bit pixels, filled with a colour that no picture here has.
-class Surface {
+/// A canvas that tells its pixels by letters: one each, rows separated by "/", "." where untouched.
+class Surface : public Canvas {
 public:
-    Surface(int width, int height) : m_width(width), m_height(height) {
-        BITMAPINFO bitmap = {};
-        bitmap.bmiHeader = {sizeof(BITMAPINFOHEADER), width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        m_bitmap = CreateDIBSection(nullptr, &bitmap, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_previous = SelectObject(m_dc, m_bitmap);
-        Clear();
-    }
-    ~Surface() {
-        SelectObject(m_dc, m_previous);
-        DeleteObject(m_bitmap);
-        DeleteDC(m_dc);
-    }
-    Surface(const Surface&) = delete;
-    Surface& operator=(const Surface&) = delete;
+    using Canvas::Canvas;
+    operator HDC() const { return dc(); }
 
-    operator HDC() const { return m_dc; }
-
-    void Clear() const {
-        const HBRUSH brush = CreateSolidBrush(kUntouched);
-        const RECT all = {0, 0, m_width, m_height};
-        FillRect(m_dc, &all, brush);
-        DeleteObject(brush);
-    }
-
-    /// One letter a pixel, rows separated by "/": the letter of the colour, "." where untouched.
     std::string Letters() const {
+        const std::map<COLORREF, char> letters = {{kUntouched, '.'},      {RGB(0, 0, 0), 'k'},
+                                                  {RGB(255, 0, 0), 'r'},  {RGB(0, 255, 0), 'g'},
+                                                  {RGB(0, 0, 255), 'b'},  {RGB(255, 255, 255), 'w'},
+                                                  {RGB(0, 255, 255), 'c'}};
+        const automation::Picture picture = Snapshot();
         std::string text;
-        for (int y = 0; y < m_height; ++y) {
-            text += y > 0 ? "/" : "";
-            for (int x = 0; x < m_width; ++x)
-                text += LetterOf(GetPixel(m_dc, x, y));
+        for (size_t i = 0; i < picture.pixels.size(); ++i) {
+            const auto letter = letters.find(picture.pixels[i]);
+            text += i > 0 && i % static_cast<size_t>(picture.width) == 0 ? "/" : "";
+            text += letter == letters.end() ? '?' : letter->second;
         }
         return text;
     }
-
-private:
-    static char LetterOf(COLORREF color) {
-        const struct {
-            COLORREF color;
-            char letter;
-        } letters[] = {{kUntouched, '.'},      {RGB(0, 0, 0), 'k'},   {RGB(255, 0, 0), 'r'},
-                       {RGB(0, 255, 0), 'g'},  {RGB(0, 0, 255), 'b'}, {RGB(255, 255, 255), 'w'},
-                       {RGB(0, 255, 255), 'c'}};
-        for (const auto& known : letters) {
-            if (known.color == color)
-                return known.letter;
-        }
-        return '?';
-    }
-
-    int m_width;
-    int m_height;
-    HDC m_dc = CreateCompatibleDC(nullptr);
-    HBITMAP m_bitmap;
-    HGDIOBJ m_previous;
 };
 
 const RGBQUAD kRed = {0, 0, 255, 0};
@@ -160,24 +120,24 @@ TEST(DrawImage, DoesNothingWhereATransparentPictureIsNotVisible) {
 }
 
 TEST(Drawing, IsRefusedWithoutPictureOrTarget) {
-    const Surface surface(4, 4);
     const RECT area = {0, 0, 4, 4};
     IsImage image = FourColors(24), disabled = image;
     disabled.Enable(false);
     const struct {
         IsImage image;
-        HDC dc;
+        bool target;
         int32_t cx, cy;
         bool stretches, others;
-    } cases[] = {{IsImage(), surface, 2, 2, false, false}, {image, nullptr, 2, 2, false, false},
-                 {image, surface, 0, 2, true, false},      {image, surface, 2, 0, true, false},
-                 {disabled, surface, 2, 2, true, false},   {image, surface, 2, 2, true, true}};
+    } cases[] = {{IsImage(), true, 2, 2, false, false}, {image, false, 2, 2, false, false},
+                 {image, true, 0, 2, true, false},      {image, true, 2, 0, true, false},
+                 {disabled, true, 2, 2, true, false},   {image, true, 2, 2, true, true}};
     for (const auto& c : cases) {
-        EXPECT_EQ(c.image.DrawImage(c.dc, 0, 0, c.cx, c.cy), c.others);
+        const Surface surface(4, 4);
+        const HDC dc = c.target ? surface.dc() : nullptr;
+        EXPECT_EQ(c.image.DrawImage(dc, 0, 0, c.cx, c.cy), c.others);
         EXPECT_EQ(surface.Letters(), c.others ? "rg../bk../..../...." : "..../..../..../....");
-        EXPECT_EQ(c.image.TileImage(c.dc, area), c.others || c.cx * c.cy == 0);
-        EXPECT_EQ(c.image.StretchImage(c.dc, 0, 0, c.cx, c.cy, SRCCOPY), c.stretches);
-        surface.Clear();
+        EXPECT_EQ(c.image.TileImage(dc, area), c.others || c.cx * c.cy == 0);
+        EXPECT_EQ(c.image.StretchImage(dc, 0, 0, c.cx, c.cy, SRCCOPY), c.stretches);
     }
 }
 

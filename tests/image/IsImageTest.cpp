@@ -171,8 +171,12 @@ TEST(Ownership, AGhostSharesAndOwnsNothing) {
     EXPECT_EQ(Picture(ghost), "000000 102030");
     EXPECT_EQ(Picture(source), "000000 102030");
 
-    // The same where only side buffers are shared.
+    // The same where only side buffers are shared, or nothing at all.
     OpenImage empty, view;
+    view.Ghost(&empty);
+    EXPECT_FALSE(empty.Transfer(view));
+    empty.Ghost(&view);
+    EXPECT_EQ(empty.Info().ghostOf, nullptr) << "or it could never get a picture again";
     empty.sideBuffer = static_cast<uint8_t*>(calloc(1, 4));
     view.Ghost(&empty);
     EXPECT_FALSE(empty.Transfer(view));

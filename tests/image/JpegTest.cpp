@@ -150,9 +150,10 @@ TEST(JpegExif, IsReadWithoutThePicture) {
     EXPECT_STREQ(image.CameraMake(), "");
 
     // Damage does not touch the picture.
-    for (const std::vector<Bytes>& sections : {std::vector<Bytes>(20, Section(0xE2, {'x'})),
-                                               {Section(0xE1, {'E', 'x', 'i', 'f', 0, 0})},
-                                               {Bytes(30, 0xFF)}}) {
+    for (const std::vector<Bytes>& sections :
+         {std::vector<Bytes>(20, Section(0xE2, {'x'})),
+          {Section(0xE1, kIntel.Block({kIntel.Short(0x112, 6), {0, 0, 0, {}}}))},
+          {Bytes(30, 0xFF)}}) {
         file = WithSections(kFile, sections);
         CxMemFile damaged(file.data(), static_cast<uint32_t>(file.size()));
         EXPECT_TRUE(image.DecodeJpeg(&damaged));

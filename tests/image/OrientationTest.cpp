@@ -77,6 +77,11 @@ TEST(Orientation, RefusalsLeaveThePictureAlone) {
     Oriented unknown(24, 9);
     EXPECT_FALSE(unknown.ApplyOrientation());
     EXPECT_EQ(Reds(unknown), "123/456");
+    Oriented large(24, 5);
+    const imagetest::LimitsGuard guard({5});
+    EXPECT_FALSE(large.ApplyOrientation());
+    EXPECT_STREQ(large.LastErrorText(), "image exceeds the limit maxPixels");
+    EXPECT_EQ(Reds(large), "123/456");
 }
 
 } // namespace

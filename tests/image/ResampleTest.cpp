@@ -257,19 +257,22 @@ TEST(Resample, RefusesAndStaysAsItWas) {
 /// Rows of many pixels that become a few would take more working memory than pictures may.
 TEST(Resample, WorkingMemoryIsLimitedToo) {
     const struct {
-        uint32_t bits, height;
+        uint32_t bits, width, height;
         int32_t newWidth;
         uint64_t limit;
         bool accepted;
-    } cases[] = {{24, 1, 100, 300040, true},
-                 {24, 1, 1, 300040, false},
-                 {24, 2, 1, 2400000, true},
+    } cases[] = {{24, 100000, 1, 100, 300040, true},
+                 {24, 100000, 1, 1, 300040, false},
+                 {24, 100000, 2, 1, 2400000, true},
                  // Sixteen rows of bytes beside the floats.
-                 {8, 40, 1, 6700000, false},
-                 {8, 40, 1, 6900000, true}};
+                 {8, 100000, 40, 1, 6700000, false},
+                 {8, 100000, 40, 1, 6900000, true},
+                 // The weights of a row that comes from as many.
+                 {24, 1, 100000, 1, 400000, false},
+                 {24, 1, 100000, 1, 405000, true}};
     for (const auto& c : cases) {
         IsImage image, target;
-        ASSERT_NE(image.CreateImage(100000, c.height, c.bits), nullptr);
+        ASSERT_NE(image.CreateImage(c.width, c.height, c.bits), nullptr);
         const LimitsGuard guard({UINT64_MAX, c.limit});
         EXPECT_EQ(image.Resample(c.newWidth, 1, kLanczos, kOverflowRepeat, &target), c.accepted);
         EXPECT_STREQ(image.LastErrorText(),
