@@ -34,6 +34,12 @@ private:
     HMENU m_menu;
 };
 
+/// All there is to know of an item but its string.
+MENUITEMINFOA InfoOf(HMENU menu, int position);
+
+/// Whether an item was converted.  GetMenuState does not tell of one that opens a submenu.
+bool IsOwnerDrawn(HMENU menu, int position = 0);
+
 /// A window with a skinned menu bar: "File" (the lines) and "&Help" (one item).
 class MenuWindow : public CSkinnedMenus<CWnd> {
 public:
@@ -60,6 +66,12 @@ bool WhileMenusRun(const std::function<void()>& script);
 /// comes.
 HWND WaitForPopup(int depth = 0);
 bool WaitForNoPopup();
+
+/// For scripts: leaves a popup of the menu bar and the bar.
+void CloseMenus();
+
+/// Whether a popup has the toolkit's procedure.
+bool IsSubclassed(HWND popup);
 
 /// Where two pictures differ first, looked at by rows, and how; empty when they do not.
 /// @param skip  pixels that need not be the same
