@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,16 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 };
+
+/// A frame window on top of all others, for the bar of a test.  Its window deletes it.
+template <class Frame>
+Frame* OpenBarFrame(int width) {
+    auto* const frame = std::make_unique<Frame>().release();
+    frame->CreateEx(WS_EX_TOPMOST,
+                    AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), "Bars",
+                    WS_POPUP | WS_VISIBLE, 60, 40, width, 240, nullptr, nullptr);
+    return frame;
+}
 
 /// Handles messages while `script` runs on a thread of its own, which opens menus by real input.
 /// @return false when it did not end within some seconds
