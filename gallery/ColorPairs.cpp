@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "draw/Hls.h"
 #include "menus/MenuLook.h"
+#include "menus/SystemTints.h"
 
 namespace {
 
@@ -16,37 +16,22 @@ COLORREF System(int index) {
     return ::GetSysColor(index);
 }
 
-COLORREF Face(int luminance) {
-    return AdjustColorLS(System(COLOR_BTNFACE), luminance, 0);
-}
-
-COLORREF Highlight(int luminance, int saturation) {
-    return AdjustColorLS(System(COLOR_HIGHLIGHT), luminance, saturation);
-}
-
-bool IsHighContrast() {
-    HIGHCONTRASTA contrast = {};
-    contrast.cbSize = sizeof contrast;
-    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
-
 using Pairs = std::vector<ColorPair>;
 
 void AddControls(Pairs& pairs) {
     const Pairs controls = {
-        {"Button", System(COLOR_BTNTEXT), Face(15), false},
-        {"Button, hot", kBlack, Highlight(80, -66), false},
-        {"Button, pressed", kNearlyWhite, Highlight(50, -50), false},
-        {"Button, disabled", System(COLOR_GRAYTEXT), Face(15), true},
+        {"Button", System(COLOR_BTNTEXT), tint::FaceTint(15), false},
+        {"Button, hot", kBlack, tint::HighlightTint(80, -66), false},
+        {"Button, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
+        {"Button, disabled", System(COLOR_GRAYTEXT), tint::FaceTint(15), true},
         {"Glyph", System(COLOR_BTNTEXT), System(COLOR_BTNFACE), false},
-        {"Glyph, hot", kBlack, Highlight(70, -57), false},
-        {"Glyph, pressed", kNearlyWhite, Highlight(50, -50), false},
+        {"Glyph, hot", kBlack, tint::HighlightTint(70, -57), false},
+        {"Glyph, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
         {"Glyph, disabled", System(COLOR_GRAYTEXT), System(COLOR_BTNFACE), true},
         {"List", System(COLOR_WINDOWTEXT), System(COLOR_WINDOW), false},
         {"List, selected", System(COLOR_HIGHLIGHTTEXT), System(COLOR_HIGHLIGHT), false},
-        {"Toolbar arrow", System(COLOR_BTNTEXT), Face(20), false},
-        {"Toolbar arrow, hot", kBlack, Highlight(70, -57), false},
+        {"Toolbar arrow", System(COLOR_BTNTEXT), tint::FaceTint(20), false},
+        {"Toolbar arrow, hot", kBlack, tint::HighlightTint(70, -57), false},
     };
     pairs.insert(pairs.end(), controls.begin(), controls.end());
 }
@@ -54,11 +39,11 @@ void AddControls(Pairs& pairs) {
 void AddMenus(Pairs& pairs) {
     auto& look = tint::MenuLook::Get();
     const COLORREF text = System(COLOR_MENUTEXT);
-    const COLORREF pale = Face(-18);
+    const COLORREF pale = tint::FaceTint(-18);
     const Pairs menus = {
         {"Menu bar", text, System(COLOR_BTNFACE), false},
-        {"Menu bar, hot", text, Highlight(70, -57), false},
-        {"Menu bar, open", text, Face(20), false},
+        {"Menu bar, hot", text, tint::HighlightTint(70, -57), false},
+        {"Menu bar, open", text, tint::FaceTint(20), false},
         {"Menu bar, inactive", System(COLOR_BTNSHADOW), System(COLOR_BTNFACE), true},
         {"Menu", text, look.GradientEnd(), false},
         {"Menu, selected", text, look.GradientStart(), false}, // the dark end of the gradient
@@ -76,7 +61,7 @@ void AddPlainMenus(Pairs& pairs) {
     const Pairs menus = {
         {"Menu bar", text, System(COLOR_BTNFACE), false},
         {"Menu bar, hot", selectedText, selected, false},
-        {"Menu bar, open", text, Face(20), false},
+        {"Menu bar, open", text, tint::FaceTint(20), false},
         {"Menu bar, inactive", grey, System(COLOR_BTNFACE), true},
         {"Menu", text, System(COLOR_MENU), false},
         {"Menu, selected", selectedText, selected, false},
@@ -110,7 +95,7 @@ double Luminance(COLORREF color) {
 std::vector<ColorPair> ColorPairs() {
     Pairs pairs;
     AddControls(pairs);
-    if (IsHighContrast())
+    if (tint::IsHighContrast())
         AddPlainMenus(pairs);
     else
         AddMenus(pairs);

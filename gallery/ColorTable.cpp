@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/ColorTable.h"
 
-#include "draw/BufferDC.h"
 #include "draw/Selectors.h"
 #include "gallery/ColorPairs.h"
 
@@ -41,24 +40,7 @@ void DrawPair(CDC& dc, const ColorPair& pair, const CRect& cell) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CColorTable, CStatic)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-BOOL CColorTable::OnEraseBkgnd(CDC*) {
-    return TRUE; // OnPaint covers everything
-}
-
-void CColorTable::OnPaint() {
-    CPaintDC target(this);
-    CRect client;
-    GetClientRect(client);
-
-    CBufferDC dc(target, client);
-    dc.FillSolidRect(client, ::GetSysColor(COLOR_BTNFACE));
-    const CDCObjectSaver font(dc, DEFAULT_GUI_FONT, ::GetSysColor(COLOR_BTNTEXT));
-    dc.SetBkMode(TRANSPARENT);
+void CColorTable::Draw(CDC& dc, const CRect& client) {
     const std::vector<ColorPair> pairs = ColorPairs();
     const int count = static_cast<int>(pairs.size());
     for (int i = 0; i < count; ++i)

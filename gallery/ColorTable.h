@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <afxwin.h>
+#include "gallery/BufferedStatic.h"
 
 /// Every pair of colours that the toolkit paints (ColorPairs), as a sample of text with its contrast
 /// ratio beside it, in two columns.
-class CColorTable : public CStatic {
+class CColorTable : public CBufferedStatic {
 protected:
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void Draw(CDC& dc, const CRect& client) override;
 };

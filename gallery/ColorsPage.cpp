@@ -11,8 +11,7 @@ LPCTSTR CColorsPage::GetTitle() const {
 
 LPCTSTR CColorsPage::GetDescription() const {
     return "Text colours on what lies under them, derived from the system's. Beside each its "
-           "contrast "
-           "ratio, from 1 to 21. The toolbar changes the scheme.";
+           "contrast ratio, from 1 to 21. The toolbar changes the scheme.";
 }
 
 void CColorsPage::DoDataExchange(CDataExchange* exchange) {

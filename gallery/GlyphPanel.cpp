@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/GlyphPanel.h"
 
-#include "draw/BufferDC.h"
+#include <algorithm>
+
 #include "draw/Selectors.h"
 
 namespace {
@@ -21,9 +22,7 @@ constexpr UINT kRepeatPeriod = 150; // milliseconds
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CGlyphPanel, CStatic)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CGlyphPanel, CBufferedStatic)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
@@ -36,7 +35,7 @@ CGlyphPanel::CGlyphPanel(UINT look) {
 }
 
 void CGlyphPanel::PreSubclassWindow() {
-    CStatic::PreSubclassWindow();
+    CBufferedStatic::PreSubclassWindow();
     ModifyStyle(0, SS_NOTIFY); // without it a static lets the mouse through
     CRect client;
     GetClientRect(client);
@@ -47,26 +46,15 @@ void CGlyphPanel::PreSubclassWindow() {
     }
 }
 
-BOOL CGlyphPanel::OnEraseBkgnd(CDC*) {
-    return TRUE; // OnPaint covers everything
-}
-
-void CGlyphPanel::OnPaint() {
-    CPaintDC target(this);
-    CRect client;
-    GetClientRect(client);
-
-    CBufferDC dc(target, client);
-    dc.FillSolidRect(client, ::GetSysColor(COLOR_BTNFACE));
+void CGlyphPanel::Draw(CDC& dc, const CRect&) {
     for (const CDrawButton& button : m_buttons)
         button.Draw(dc, 0);
 
-    const CDCObjectSaver font(dc, DEFAULT_GUI_FONT, ::GetSysColor(COLOR_WINDOWTEXT));
     const CPenSelector frame(dc, ::GetSysColor(COLOR_BTNSHADOW));
     const CBrushSelector face(dc, ::GetSysColor(COLOR_WINDOW));
     CRect place = NumberPlace();
     dc.Rectangle(place);
-    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     CString text;
     text.Format("%d", m_number);
     place.DeflateRect(4, 0);
@@ -89,9 +77,13 @@ void CGlyphPanel::OnLButtonDown(UINT, CPoint point) {
         ClickSpinPair(spinPair, point);
         return;
     }
-    for (CDrawButton& button : m_buttons)
-        if (::PtInRect(&button.GetRect(), point) && button.TrackClick(m_hWnd, point) != 0)
-            Click(button);
+    const auto button =
+        std::find_if(m_buttons.begin() + 1, m_buttons.end(), [point](const CDrawButton& other) {
+            return ::PtInRect(&other.GetRect(), point) != FALSE;
+        });
+    // The panel may be destroyed in the loop of the click: nothing may follow it but what was clicked.
+    if (button != m_buttons.end() && button->TrackClick(m_hWnd, point) != 0)
+        Click(*button);
 }
 
 void CGlyphPanel::OnLButtonDblClk(UINT flags, CPoint point) {

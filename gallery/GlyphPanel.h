@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <afxwin.h>
-
 #include <array>
 
 #include "controls/DrawButton.h"
+#include "gallery/BufferedStatic.h"
 
 /// A number and glyph buttons that change it: what a host of CDrawButton does.
-class CGlyphPanel : public CStatic {
+class CGlyphPanel : public CBufferedStatic {
 public:
     /// @param look  flags of all buttons: CDrawButton::kFlat, or 0 for the classic look
     explicit CGlyphPanel(UINT look);
@@ -16,8 +15,8 @@ public:
     void PreSubclassWindow() override;
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg void OnPaint();
+    void Draw(CDC& dc, const CRect& client) override;
+
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);

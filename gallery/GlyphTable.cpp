@@ -4,8 +4,6 @@
 #include <iterator>
 
 #include "controls/DrawButton.h"
-#include "draw/BufferDC.h"
-#include "draw/Selectors.h"
 
 namespace {
 
@@ -85,24 +83,7 @@ void DrawKind(CDC& dc, const Named& kind, int row) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CGlyphTable, CStatic)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-BOOL CGlyphTable::OnEraseBkgnd(CDC*) {
-    return TRUE; // OnPaint covers everything
-}
-
-void CGlyphTable::OnPaint() {
-    CPaintDC target(this);
-    CRect client;
-    GetClientRect(client);
-
-    CBufferDC dc(target, client);
-    dc.FillSolidRect(client, ::GetSysColor(COLOR_BTNFACE));
-    const CDCObjectSaver font(dc, DEFAULT_GUI_FONT, ::GetSysColor(COLOR_BTNTEXT));
-    dc.SetBkMode(TRANSPARENT);
+void CGlyphTable::Draw(CDC& dc, const CRect&) {
     DrawHeadings(dc);
     for (int row = 0; row < static_cast<int>(std::size(kKinds)); ++row)
         DrawKind(dc, kKinds[row], row);

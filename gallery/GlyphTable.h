@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <afxwin.h>
+#include "gallery/BufferedStatic.h"
 
 /// A picture table of glyph buttons: a row for each kind, a column for each look and state.
-class CGlyphTable : public CStatic {
+class CGlyphTable : public CBufferedStatic {
 protected:
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void Draw(CDC& dc, const CRect& client) override;
 };

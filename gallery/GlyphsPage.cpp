@@ -10,9 +10,8 @@ LPCTSTR CGlyphsPage::GetTitle() const {
 }
 
 LPCTSTR CGlyphsPage::GetDescription() const {
-    return "Buttons that are not windows: CDrawButton draws them inside any window. Click them, "
-           "hold "
-           "the spin pair, press Escape before releasing.";
+    return "Buttons that are not windows: CDrawButton draws them inside any window. Click "
+           "them, hold the spin pair, press Escape before releasing.";
 }
 
 void CGlyphsPage::DoDataExchange(CDataExchange* exchange) {

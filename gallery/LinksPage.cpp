@@ -14,9 +14,8 @@ LPCTSTR CLinksPage::GetTitle() const {
 }
 
 LPCTSTR CLinksPage::GetDescription() const {
-    return "Texts of the dialog, each subclassed by CHyperLink. Point at one for its target; a "
-           "click "
-           "opens it.";
+    return "Texts of the dialog, each subclassed by CHyperLink. Point at one for its target; "
+           "a click opens it.";
 }
 
 void CLinksPage::DoDataExchange(CDataExchange* exchange) {

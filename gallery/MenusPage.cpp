@@ -17,9 +17,8 @@ LPCTSTR CMenusPage::GetTitle() const {
 }
 
 LPCTSTR CMenusPage::GetDescription() const {
-    return "Windows whose class derives from CSkinnedMenus: their menus are measured and painted "
-           "by "
-           "the toolkit, frame and shadow included.";
+    return "Windows whose class derives from CSkinnedMenus: their menus are measured and "
+           "painted by the toolkit, frame and shadow included.";
 }
 
 void CMenusPage::DoDataExchange(CDataExchange* exchange) {

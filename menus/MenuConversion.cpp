@@ -76,7 +76,7 @@ private:
 /// Measures texts as menus show them: with the menu font, on the screen of the main window.
 class MeasuringContext {
 public:
-    MeasuringContext() : m_dc(::AfxGetThread()->GetMainWnd()), m_font(m_dc, DEFAULT_GUI_FONT) {}
+    MeasuringContext() : m_dc(::AfxGetMainWnd()), m_font(m_dc, DEFAULT_GUI_FONT) {}
 
     CDC& dc() { return m_dc; }
 

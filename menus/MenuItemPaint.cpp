@@ -2,12 +2,12 @@
 #include "menus/MenuItemPaint.h"
 
 #include "draw/ColorMarkers.h"
-#include "draw/Hls.h"
 #include "draw/Selectors.h"
 #include "menus/MenuLook.h"
 #include "menus/MenuPaint.h"
 #include "menus/MenuState.h"
 #include "menus/Silhouette.h"
+#include "menus/SystemTints.h"
 
 namespace tint {
 namespace {
@@ -24,14 +24,6 @@ constexpr UINT kOemCheckMark = 32760;
 
 COLORREF System(int index) {
     return ::GetSysColor(index);
-}
-
-COLORREF Face(int luminance) {
-    return AdjustColorLS(System(COLOR_BTNFACE), luminance, 0);
-}
-
-COLORREF Highlight(int luminance, int saturation) {
-    return AdjustColorLS(System(COLOR_HIGHLIGHT), luminance, saturation);
 }
 
 /// Paints one item, a layer after the other.
@@ -102,7 +94,7 @@ void Painter::DrawOpenBarItem() {
     GetMenuState().openBarItem = framed;
     {
         const CPenSelector pen(m_dc, System(COLOR_3DDKSHADOW));
-        const CBrushSelector brush(m_dc, Face(20));
+        const CBrushSelector brush(m_dc, FaceTint(20));
         m_dc.Rectangle(framed);
     }
     m_dc.FillSolidRect(BarStrip(), System(COLOR_BTNFACE));
@@ -123,13 +115,13 @@ void Painter::DrawResting() {
         m_dc.FillSolidRect(rest, look.GradientEnd());
     } else {
         column.right = rest.left = m_rect.left + kFlatColumn;
-        m_dc.FillSolidRect(column, Face(20));
-        m_dc.FillSolidRect(rest, Face(75));
+        m_dc.FillSolidRect(column, FaceTint(20));
+        m_dc.FillSolidRect(rest, FaceTint(75));
     }
 }
 
 void Painter::DrawHighlight() {
-    m_fill = m_disabled ? Face(73) : Highlight(70, -57);
+    m_fill = m_disabled ? FaceTint(73) : HighlightTint(70, -57);
     const CPenSelector pen(m_dc, System(COLOR_HIGHLIGHT));
     CBrushSelector brush(m_dc, m_fill);
     if (m_state.barItem) {
@@ -149,17 +141,17 @@ void Painter::DrawHighlight() {
 COLORREF Painter::TextColor() const {
     if (m_state.inactive)
         return System(COLOR_BTNSHADOW);
-    return m_disabled ? Face(-18) : System(COLOR_MENUTEXT);
+    return m_disabled ? FaceTint(-18) : System(COLOR_MENUTEXT);
 }
 
 COLORREF Painter::CheckedFill() const {
     if (m_disabled)
-        return Face(73);
-    return m_state.selected ? Highlight(50, -50) : Highlight(70, -57);
+        return FaceTint(73);
+    return m_state.selected ? HighlightTint(50, -50) : HighlightTint(70, -57);
 }
 
 void Painter::DrawSeparator() {
-    const CPenSelector pen(m_dc, Face(-18));
+    const CPenSelector pen(m_dc, FaceTint(-18));
     const int y = (m_rect.top + m_rect.bottom) / 2;
     m_dc.MoveTo(m_rect.left + kTextLeft, y);
     m_dc.LineTo(m_rect.right - 1, y);
@@ -220,11 +212,11 @@ void Painter::DrawImage() {
                        {kImageSize, kImageSize}, color);
     };
     if (m_disabled) {
-        silhouette(3, Face(-27)); // is all there is to see
+        silhouette(3, FaceTint(-27)); // is all there is to see
         return;
     }
     if (raised)
-        silhouette(4, Highlight(50, -66));
+        silhouette(4, HighlightTint(50, -66));
     const int offset = raised ? 2 : 3;
     ::ImageList_Draw(image.imageList, image.index, m_dc, m_rect.left + offset, m_rect.top + offset,
                      ILD_TRANSPARENT);
@@ -240,7 +232,7 @@ void Painter::DrawCheckMark() {
 }
 
 void Painter::DrawRadioBullet() {
-    const COLORREF color = m_disabled ? Face(-27) : System(COLOR_MENUTEXT);
+    const COLORREF color = m_disabled ? FaceTint(-27) : System(COLOR_MENUTEXT);
     const CPenSelector pen(m_dc, color);
     const CBrushSelector brush(m_dc, color);
     const int x = (m_rect.left + 5 + m_rect.left + 5 + kCheckWidth) / 2;

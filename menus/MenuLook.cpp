@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "draw/ColorMarkers.h"
-#include "draw/Hls.h"
+#include "menus/SystemTints.h"
 
 namespace tint {
 namespace {
@@ -26,7 +26,7 @@ int Value(std::optional<int>& kept, LPCSTR section, LPCSTR key, int otherwise) {
 
 COLORREF ColorOrDerived(int value, int luminance) {
     const auto color = static_cast<COLORREF>(value);
-    return color == kNoColor ? AdjustColorLS(::GetSysColor(COLOR_BTNFACE), luminance, 0) : color;
+    return color == kNoColor ? FaceTint(luminance) : color;
 }
 
 } // namespace

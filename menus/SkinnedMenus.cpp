@@ -4,17 +4,10 @@
 #include "draw/Skin.h"
 #include "menus/MenuBar.h"
 #include "menus/MenuState.h"
+#include "menus/SystemTints.h"
 
 namespace tint {
 namespace {
-
-/// The user wants the system's colours as they are, which tints and gradients are not.
-bool IsHighContrast() {
-    HIGHCONTRASTA contrast = {};
-    contrast.cbSize = sizeof contrast;
-    return ::SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
 
 bool IsSkinWanted(HWND window) {
     return IsSkinEnabled(window) && !IsHighContrast();

@@ -1,36 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "menus/ToolBarPainter.h"
 
-#include "draw/Hls.h"
 #include "draw/Selectors.h"
 #include "menus/Silhouette.h"
+#include "menus/SystemTints.h"
 
 namespace tint {
 namespace {
 
 constexpr int kArrowWidth = 13; ///< of the arrow half of a drop-down button
 
-COLORREF SystemColor(int index, int luminance, int saturation) {
-    return AdjustColorLS(::GetSysColor(index), luminance, saturation);
-}
-
 /// The face of a framed button: the stronger the state, the stronger the tint.
 COLORREF FaceColor(bool hot, bool pressed, bool checked) {
     if (pressed || (hot && checked))
-        return SystemColor(COLOR_HIGHLIGHT, 50, -50);
-    return hot ? SystemColor(COLOR_HIGHLIGHT, 70, -57) : SystemColor(COLOR_HIGHLIGHT, 80, -66);
+        return HighlightTint(50, -50);
+    return hot ? HighlightTint(70, -57) : HighlightTint(80, -66);
 }
 
 COLORREF SilhouetteColor(bool hot, bool open) {
     if (!hot)
-        return SystemColor(COLOR_BTNFACE, -27, 0);
-    return open ? SystemColor(COLOR_BTNFACE, -20, 0) : SystemColor(COLOR_HIGHLIGHT, 50, -66);
+        return FaceTint(-27);
+    return open ? FaceTint(-20) : HighlightTint(50, -66);
 }
 
 } // namespace
 
 COLORREF ToolBarPainter::BackgroundColor() {
-    return SystemColor(COLOR_BTNFACE, 20, 0);
+    return FaceTint(20);
 }
 
 ToolBarPainter::ToolBarPainter(CDC& dc, const CWnd& toolBar, CSize imageSize)
@@ -126,7 +122,7 @@ void ToolBarPainter::PaintFace(Item& item) {
 void ToolBarPainter::PaintSplit(Item& item) {
     CRect& rect = item.rect;
     if (item.pressed) {
-        CBrushSelector brush(m_dc, SystemColor(COLOR_HIGHLIGHT, 70, -66));
+        CBrushSelector brush(m_dc, HighlightTint(70, -66));
         m_dc.Rectangle(rect.right - 1, rect.top, rect.right + kArrowWidth, rect.bottom);
         rect.right += kArrowWidth;
         return;
@@ -136,7 +132,7 @@ void ToolBarPainter::PaintSplit(Item& item) {
 }
 
 void ToolBarPainter::PaintSeparator(const Item& item) {
-    CPenSelector pen(m_dc, SystemColor(COLOR_BTNFACE, -15, 0));
+    CPenSelector pen(m_dc, FaceTint(-15));
     const CRect& rect = item.rect;
     if (item.Has(TBSTATE_WRAP)) {
         m_dc.MoveTo(m_client.left + 2, rect.bottom - 4);

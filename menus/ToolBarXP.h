@@ -55,7 +55,8 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// Tells the owner that the arrow of a drop-down button was pressed: WM_COMMAND with the 16-bit
-    /// two's complement of the button's command.
+    /// two's complement of the button's command.  The bar should outlive the owner's handler, although a
+    /// menu may run in it: the system's part of the control goes on with the click afterwards.
     /// @param result  TBDDRET_DEFAULT when the owner handled it, else TBDDRET_TREATPRESSED: the button
     ///                is then pressed as a whole
     afx_msg void OnDropDown(NMHDR* notification, LRESULT* result);

@@ -3,13 +3,13 @@
 
 #include "draw/ColorMarkers.h"
 #include "draw/DrawUtil.h"
-#include "draw/Hls.h"
 #include "draw/Selectors.h"
 #include "menus/Contained.h"
 #include "menus/MenuPaint.h"
 #include "menus/MenuState.h"
 #include "menus/MenuXP.h"
 #include "menus/OsClass.h"
+#include "menus/SystemTints.h"
 
 namespace {
 
@@ -19,10 +19,6 @@ constexpr int kShadow = 4; // pixels
 /// Whether the shadow is ours to paint.  On the one system that casts one by itself it is not.
 bool HasOwnShadow() {
     return CWndMenuXP::GetOSClass() < 8;
-}
-
-COLORREF Face(int luminance) {
-    return AdjustColorLS(::GetSysColor(COLOR_BTNFACE), luminance, 0);
 }
 
 WNDPROC OldProcOf(HWND window) {
@@ -232,7 +228,7 @@ void CWndMenuXP::DrawFrame(CDC& dc, CRect frame, bool join) const {
     const CBrushSelector brush(dc, tint::kNoColor);
     CPenSelector pen(dc, ::GetSysColor(COLOR_3DDKSHADOW));
     dc.Rectangle(frame);
-    pen.SetColor(Face(75));
+    pen.SetColor(tint::FaceTint(75));
     for (int line = 0; line < 2; ++line) {
         frame.DeflateRect(1, 1);
         dc.Rectangle(frame);
@@ -246,7 +242,7 @@ void CWndMenuXP::DrawJoin(CDC& dc) const {
     if (::IsRectEmpty(&item) || item.bottom != m_y + 1)
         return;
     const int left = item.left - m_x;
-    const CPenSelector pen(dc, Face(20));
+    const CPenSelector pen(dc, tint::FaceTint(20));
     dc.MoveTo(left - 3, 0);
     dc.LineTo(left + (item.right - item.left) - 5, 0);
 }

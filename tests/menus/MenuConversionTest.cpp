@@ -13,18 +13,6 @@ namespace {
 
 constexpr UINT kFirst = TestMenu::kFirst;
 
-MENUITEMINFOA InfoOf(HMENU menu, UINT position) {
-    MENUITEMINFOA info = {};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_DATA | MIIM_BITMAP;
-    EXPECT_TRUE(::GetMenuItemInfoA(menu, position, TRUE, &info));
-    return info;
-}
-
-bool IsOwnerDrawn(HMENU menu, UINT position) {
-    return (InfoOf(menu, position).fType & MFT_OWNERDRAW) != 0;
-}
-
 std::string StringOf(HMENU menu, UINT id) {
     char text[300] = "";
     ::GetMenuStringA(menu, id, text, sizeof text, MF_BYCOMMAND);
@@ -47,7 +35,7 @@ TEST(Conversion, KeepsStringsAndStates) {
     CMenuXP::ConvertMenu(nullptr, menu, false, false);
     EXPECT_FALSE(IsOwnerDrawn(menu, 0)) << "not enabled";
     Convert(menu);
-    for (const UINT position : {0U, 1U, 2U})
+    for (const int position : {0, 1, 2})
         EXPECT_TRUE(IsOwnerDrawn(menu, position));
     EXPECT_EQ(StringOf(menu, kFirst), "&Open\tCtrl+O");
     EXPECT_EQ(Recorded(menu, 0), "&Open|Ctrl+O");

@@ -12,14 +12,6 @@
 
 namespace {
 
-ULONG_PTR DataOf(HMENU menu, int position) {
-    MENUITEMINFOA info = {};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_DATA;
-    ::GetMenuItemInfoA(menu, static_cast<UINT>(position), TRUE, &info);
-    return info.dwItemData;
-}
-
 SIZE Measure(ULONG_PTR data, UINT type = ODT_MENU) {
     MEASUREITEMSTRUCT request = {};
     request.CtlType = type;
@@ -82,20 +74,20 @@ TEST(MenuItem, SizesOfAPopupAreItsWidestTexts) {
     const LONG width = TextWidth("A longer label") + TextWidth("Ctrl+Shift+N") + 42;
     const LONG height = std::max<LONG>(metrics.tmHeight + 2, 16) + 4;
     for (const int position : {0, 1, 3}) {
-        const SIZE size = Measure(DataOf(menu, position));
+        const SIZE size = Measure(InfoOf(menu, position).dwItemData);
         EXPECT_EQ(size.cx, width) << position;
         EXPECT_EQ(size.cy, height) << position;
     }
-    EXPECT_EQ(Measure(DataOf(menu, 2)).cx, 42);
-    EXPECT_EQ(Measure(DataOf(menu, 2)).cy, metrics.tmHeight / 2 + 2);
+    EXPECT_EQ(Measure(InfoOf(menu, 2).dwItemData).cx, 42);
+    EXPECT_EQ(Measure(InfoOf(menu, 2).dwItemData).cy, metrics.tmHeight / 2 + 2);
     EXPECT_EQ(Measure(0x123456, ODT_LISTBOX).cx, 0) << "not a menu's";
     EXPECT_EQ(tint::MenuItemData::PopupItem(0x120, 0x1FF, 0x12345).Word(), 0x2345FF20U);
 
     const HMENU bar = ::CreateMenu();
     ::AppendMenuA(bar, MF_STRING, 1, "&File");
     CMenuXP::ConvertMenu(nullptr, bar, true, true);
-    EXPECT_EQ(Measure(DataOf(bar, 0)).cx, TextWidth("File") + 4);
-    EXPECT_EQ(DataOf(bar, 0) & 0xFFFF, 0U);
+    EXPECT_EQ(Measure(InfoOf(bar, 0).dwItemData).cx, TextWidth("File") + 4);
+    EXPECT_EQ(InfoOf(bar, 0).dwItemData & 0xFFFF, 0U);
     ::DestroyMenu(bar);
 }
 

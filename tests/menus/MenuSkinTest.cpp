@@ -12,14 +12,6 @@
 
 namespace {
 
-bool IsOwnerDrawn(HMENU menu) {
-    MENUITEMINFOA info = {};
-    info.cbSize = sizeof info;
-    info.fMask = MIIM_FTYPE;
-    ::GetMenuItemInfoA(menu, 0, TRUE, &info);
-    return (info.fType & MFT_OWNERDRAW) != 0;
-}
-
 decltype(&::SystemParametersInfoA) g_realParameters;
 bool g_highContrast = false;
 
@@ -48,7 +40,7 @@ TEST(MenuSkin, GoesAndComesWithItsSwitch) {
         EXPECT_TRUE(WhileMenusRun([&] {
             automation::TypeKey('F', VK_MENU);
             const HWND popup = WaitForPopup();
-            EXPECT_EQ(::GetPropA(popup, "XPWndProp_OldProc") != nullptr, enabled);
+            EXPECT_EQ(IsSubclassed(popup), enabled);
             EXPECT_EQ(IsOwnerDrawn(window.File()), enabled);
             automation::TypeKey('T'); // the mnemonic works either way
             EXPECT_TRUE(WaitForNoPopup());

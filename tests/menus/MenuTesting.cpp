@@ -7,6 +7,7 @@
 #include <atomic>
 #include <thread>
 
+#include "automation/RealInput.h"
 #include "automation/Steady.h"
 #include "tests/support/Pump.h"
 
@@ -41,6 +42,18 @@ HMENU TestMenu::Release() {
     const HMENU menu = m_menu;
     m_menu = nullptr;
     return menu;
+}
+
+MENUITEMINFOA InfoOf(HMENU menu, int position) {
+    MENUITEMINFOA info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_SUBMENU | MIIM_DATA | MIIM_BITMAP;
+    EXPECT_TRUE(::GetMenuItemInfoA(menu, static_cast<UINT>(position), TRUE, &info));
+    return info;
+}
+
+bool IsOwnerDrawn(HMENU menu, int position) {
+    return (InfoOf(menu, position).fType & MFT_OWNERDRAW) != 0;
 }
 
 MenuWindow::MenuWindow(const std::vector<std::string>& lines) {
@@ -133,4 +146,14 @@ bool WaitForNoPopup() {
         ::Sleep(10);
     }
     return false;
+}
+
+void CloseMenus() {
+    automation::TypeKey(VK_ESCAPE);
+    automation::TypeKey(VK_ESCAPE);
+    EXPECT_TRUE(WaitForNoPopup());
+}
+
+bool IsSubclassed(HWND popup) {
+    return ::GetPropA(popup, "XPWndProp_OldProc") != nullptr;
 }

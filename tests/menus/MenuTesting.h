@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,12 @@ private:
     HMENU m_menu;
 };
 
+/// All there is to know of an item but its string.
+MENUITEMINFOA InfoOf(HMENU menu, int position);
+
+/// Whether an item was converted.  GetMenuState does not tell of one that opens a submenu.
+bool IsOwnerDrawn(HMENU menu, int position = 0);
+
 /// A window with a skinned menu bar: "File" (the lines) and "&Help" (one item).
 class MenuWindow : public CSkinnedMenus<CWnd> {
 public:
@@ -52,6 +59,16 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 };
 
+/// A frame window on top of all others, for the bar of a test.  Its window deletes it.
+template <class Frame>
+Frame* OpenBarFrame(int width) {
+    auto* const frame = std::make_unique<Frame>().release();
+    frame->CreateEx(WS_EX_TOPMOST,
+                    AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), "Bars",
+                    WS_POPUP | WS_VISIBLE, 60, 40, width, 240, nullptr, nullptr);
+    return frame;
+}
+
 /// Handles messages while `script` runs on a thread of its own, which opens menus by real input.
 /// @return false when it did not end within some seconds
 bool WhileMenusRun(const std::function<void()>& script);
@@ -60,6 +77,12 @@ bool WhileMenusRun(const std::function<void()>& script);
 /// comes.
 HWND WaitForPopup(int depth = 0);
 bool WaitForNoPopup();
+
+/// For scripts: leaves a popup of the menu bar and the bar.
+void CloseMenus();
+
+/// Whether a popup has the toolkit's procedure.
+bool IsSubclassed(HWND popup);
 
 /// Where two pictures differ first, looked at by rows, and how; empty when they do not.
 /// @param skip  pixels that need not be the same

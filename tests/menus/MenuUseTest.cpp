@@ -102,12 +102,10 @@ TEST(MenuUse, ChangesShowWhileAMenuIsOpen) {
         ::DeleteMenu(window.File(), kFirst, MF_BYCOMMAND);
         ::AppendMenuA(window.File(), MF_STRING, kFirst + 5, "Added");
         repaint();
-        automation::TypeKey(VK_ESCAPE);
-        automation::TypeKey(VK_ESCAPE);
-        EXPECT_TRUE(WaitForNoPopup());
+        CloseMenus();
     }));
     window.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(window.File())); // opened again
-    EXPECT_NE(::GetMenuState(window.File(), kFirst + 5, MF_BYCOMMAND) & MF_OWNERDRAW, 0U);
+    EXPECT_TRUE(IsOwnerDrawn(window.File(), 1));
 }
 
 TEST(MenuUse, TwoThousandOpeningsLeaveNothingBehind) {
@@ -126,7 +124,7 @@ TEST(MenuUse, TwoThousandOpeningsLeaveNothingBehind) {
     EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
     HWND left = nullptr;
     while ((left = ::FindWindowExA(nullptr, left, "#32768", nullptr)) != nullptr) {
-        EXPECT_EQ(::GetPropA(left, "XPWndProp_OldProc"), nullptr);
+        EXPECT_FALSE(IsSubclassed(left));
         EXPECT_EQ(CMenuXP::FindMenuWindow(left, true), nullptr);
     }
 }
@@ -145,7 +143,7 @@ TEST(MenuUse, AWindowMayGoWhileItsMenuIsOpen) {
         ::TrackPopupMenu(window.File(), TPM_RETURNCMD, 200, 200, 0, window.m_hWnd, nullptr);
         ASSERT_EQ(popups.size(), 1U);
         EXPECT_EQ(CMenuXP::FindMenuWindow(popups[0], true), nullptr);
-        EXPECT_EQ(::GetPropA(popups[0], "XPWndProp_OldProc"), nullptr);
+        EXPECT_FALSE(IsSubclassed(popups[0]));
     }
 }
 
@@ -183,19 +181,16 @@ TEST(MenuUse, BarsOfDialogsAndFramesAreSkinnedWhenTheyAreSet) {
     frame.Create(nullptr, "frame");
     Skinned<CMDIFrameWnd> mdiFrame;
     mdiFrame.Create(nullptr, "MDI frame");
-    const auto hasSkinnedBar = [](CWnd& window) {
-        return (::GetMenuState(::GetMenu(window), 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0;
-    };
     for (CWnd* const window :
          {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&frame), static_cast<CWnd*>(&mdiFrame)}) {
         ::SetMenu(*window, NewBar());
-        EXPECT_TRUE(hasSkinnedBar(*window));
+        EXPECT_TRUE(IsOwnerDrawn(::GetMenu(*window)));
     }
     CMenu other; // as an MDI child brings along
     other.Attach(NewBar());
     CMenu* const former = mdiFrame.MDISetMenu(&other, nullptr);
     mdiFrame.DrawMenuBar();
-    EXPECT_TRUE(hasSkinnedBar(mdiFrame));
+    EXPECT_TRUE(IsOwnerDrawn(::GetMenu(mdiFrame)));
     mdiFrame.MDISetMenu(former, nullptr);
 }
 
@@ -227,9 +222,8 @@ TEST(MenuUse, AMaximisedMdiChildHasTheSystemsMenuInASkinnedBar) {
         EXPECT_TRUE(WhileMenusRun([&] {
             Click(MiddleOf(frame, bar, position));
             const HWND popup = WaitForPopup();
-            EXPECT_NE(::GetPropA(popup, "XPWndProp_OldProc"), nullptr) << "its frame is flat";
-            const HMENU menu = ::GetSubMenu(bar, static_cast<int>(position));
-            EXPECT_EQ((::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW) != 0, skinned);
+            EXPECT_TRUE(IsSubclassed(popup)) << "its frame is flat";
+            EXPECT_EQ(IsOwnerDrawn(::GetSubMenu(bar, static_cast<int>(position))), skinned);
             EXPECT_EQ(::IsRectEmpty(&tint::GetMenuState().openBarItem) == FALSE, skinned);
             automation::TypeKey(skinned ? 'N' : 'R');
             EXPECT_TRUE(WaitForNoPopup());
@@ -247,7 +241,7 @@ TEST(MenuUse, AWindowMayGoBeforeItsPopupOpens) {
     frame.m_onPopup = [&] { frame.DestroyWindow(); };
     ::SendMessageA(gone, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(HMENU{menu}), 0);
     EXPECT_EQ(::GetPropA(gone, "XPWndProp_MenuXP"), nullptr);
-    EXPECT_EQ(::GetMenuState(menu, 0, MF_BYPOSITION) & MF_OWNERDRAW, 0U);
+    EXPECT_FALSE(IsOwnerDrawn(menu));
 }
 
 } // namespace

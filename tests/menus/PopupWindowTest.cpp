@@ -19,10 +19,6 @@ namespace {
 
 constexpr char kOldProc[] = "XPWndProp_OldProc";
 
-bool IsSubclassed(HWND popup) {
-    return ::GetPropA(popup, kOldProc) != nullptr;
-}
-
 LONG_PTR ProcOf(HWND window) {
     return ::GetWindowLongPtrA(window, GWLP_WNDPROC);
 }
@@ -259,9 +255,7 @@ TEST(PopupFrame, IsFlatWithAShadowAndOpensToTheBarItem) {
             std::fill(want.pixels.begin() + std::max(left - 3, 0L), want.pixels.begin() + right - 5,
                       Face(20));
             EXPECT_EQ(FirstDifference(have, want, InsideOf(want, shadow)), "") << osClass;
-            automation::TypeKey(VK_ESCAPE);
-            automation::TypeKey(VK_ESCAPE);
-            EXPECT_TRUE(WaitForNoPopup());
+            CloseMenus();
         }));
         EXPECT_TRUE(::IsRectEmpty(&tint::GetMenuState().openBarItem)) << "the bar is closed";
     }

@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "automation/Picture.h"
 #include "automation/SystemColors.h"
 #include "draw/Skin.h"
+#include "tests/menus/MenuTesting.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/Pump.h"
 
@@ -25,10 +25,7 @@ template <class Bar>
 class StatusFrame : public CFrameWnd {
 public:
     static StatusFrame* Open() {
-        auto* const frame = std::make_unique<StatusFrame>().release();
-        frame->CreateEx(WS_EX_TOPMOST,
-                        AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), "Bars",
-                        WS_POPUP | WS_VISIBLE, 60, 40, 700, 240, nullptr, nullptr);
+        auto* const frame = OpenBarFrame<StatusFrame>(700);
         frame->m_bar.Create(frame);
         EXPECT_TRUE(frame->m_bar.SetIndicators(kPanes, kCount));
         frame->RecalcLayout();

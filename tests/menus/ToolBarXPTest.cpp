@@ -11,8 +11,8 @@
 
 #include "automation/RealInput.h"
 #include "automation/SystemColors.h"
-#include "draw/Hls.h"
 #include "draw/Skin.h"
+#include "tests/menus/MenuRules.h"
 #include "tests/menus/MenuTesting.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/Pump.h"
@@ -30,19 +30,12 @@ constexpr UINT kEndToolBar = WM_APP + 1;
 constexpr COLORREF kInk =
     RGB(10, 60, 20); ///< of the images: their left half, the right one is clear
 
-COLORREF Tint(int index, int luminance, int saturation) {
-    return AdjustColorLS(::GetSysColor(index), luminance, saturation);
-}
-
 /// A frame window with a toolbar of class Bar, docked at the top.  Its window deletes it.
 template <class Bar>
 class ToolFrame : public CFrameWnd {
 public:
     static ToolFrame* Open() {
-        auto* const frame = std::make_unique<ToolFrame>().release();
-        frame->CreateEx(WS_EX_TOPMOST,
-                        AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_WINDOW)), "Bars",
-                        WS_POPUP | WS_VISIBLE, 60, 40, 320, 240, nullptr, nullptr);
+        auto* const frame = OpenBarFrame<ToolFrame>(320);
         frame->SetUp();
         ::SetForegroundWindow(frame->m_hWnd);
         ParkMouse();
@@ -136,7 +129,7 @@ struct Expected : Picture {
         frame.ToolBar().GetClientRect(client);
         width = client.right;
         height = client.bottom;
-        pixels.assign(static_cast<std::size_t>(width) * height, Tint(COLOR_BTNFACE, 20, 0));
+        pixels.assign(static_cast<std::size_t>(width) * height, Face(20));
     }
     void Fill(LONG left, LONG top, LONG right, LONG bottom, COLORREF color) {
         for (LONG y = std::max(top, 0L); y < std::min<LONG>(bottom, height); ++y)
@@ -144,7 +137,7 @@ struct Expected : Picture {
                 pixels[static_cast<std::size_t>(y) * width + x] = color;
     }
     void Box(const CRect& r, LONG left, LONG right, COLORREF face) {
-        Fill(left, r.top, right, r.bottom, ::GetSysColor(COLOR_HIGHLIGHT));
+        Fill(left, r.top, right, r.bottom, System(COLOR_HIGHLIGHT));
         Fill(left + 1, r.top + 1, right - 1, r.bottom - 1, face);
     }
     void Button(const CRect& r, int index, int look) {
@@ -153,35 +146,31 @@ struct Expected : Picture {
         const bool hot = enabled && look != kResting;
         const bool pressed = (look & kPressed) != 0;
         if (open) {
-            const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
+            const COLORREF dark = System(COLOR_3DDKSHADOW);
             Fill(r.left, r.top, r.left + 1, r.bottom + 1, dark);
             Fill(r.left, r.top, r.right, r.top + 1, dark);
             Fill(r.right - 1, r.top, r.right, r.bottom, dark);
             Fill(r.left, r.bottom - 1, r.right, r.bottom, dark);
         } else if (hot || index == kChecked) {
-            const COLORREF face = pressed || (hot && index == kChecked)
-                                      ? Tint(COLOR_HIGHLIGHT, 50, -50)
-                                  : hot ? Tint(COLOR_HIGHLIGHT, 70, -57)
-                                        : Tint(COLOR_HIGHLIGHT, 80, -66);
+            const COLORREF face = pressed || (hot && index == kChecked) ? Highlight(50, -50)
+                                  : hot                                 ? Highlight(70, -57)
+                                                                        : Highlight(80, -66);
             const bool split = index == kSplit && pressed;
             Box(r, r.left, split ? r.right - 13 : r.right, face);
             if (split)
-                Box(r, r.right - 14, r.right, Tint(COLOR_HIGHLIGHT, 70, -66));
+                Box(r, r.right - 14, r.right, Highlight(70, -66));
             else if (index == kSplit)
-                Fill(r.right - 14, r.top, r.right - 13, r.bottom, ::GetSysColor(COLOR_HIGHLIGHT));
+                Fill(r.right - 14, r.top, r.right - 13, r.bottom, System(COLOR_HIGHLIGHT));
         }
         if (index == kSplit)
             for (int row = 0; row < 3; ++row) {
                 const LONG y = (r.top + r.bottom) / 2 - 1 + row;
                 Fill(r.right - 9 + row, y, r.right - 4 - row, y + 1,
-                     hot && !open ? 0 : ::GetSysColor(COLOR_BTNTEXT));
+                     hot && !open ? 0 : System(COLOR_BTNTEXT));
             }
         const bool lifted = hot && !pressed;
         if (lifted || !enabled)
-            Image(r, lifted ? 4 : 3,
-                  open  ? Tint(COLOR_BTNFACE, -20, 0)
-                  : hot ? Tint(COLOR_HIGHLIGHT, 50, -66)
-                        : Tint(COLOR_BTNFACE, -27, 0));
+            Image(r, lifted ? 4 : 3, open ? Face(-20) : hot ? Highlight(50, -66) : Face(-27));
         if (enabled)
             Image(r, lifted ? 2 : 3, kInk);
     }
@@ -193,7 +182,7 @@ struct Expected : Picture {
 /// Waits until the bar shows all buttons resting but `index`, which has that look.
 testing::AssertionResult ComesToShow(Frame& frame, int index = kPlain, int look = kResting,
                                      bool vertical = false) {
-    const COLORREF line = Tint(COLOR_BTNFACE, -15, 0);
+    const COLORREF line = Face(-15);
     Picture shown;
     Expected expected(frame);
     const auto draw = [&] {
@@ -217,7 +206,7 @@ testing::AssertionResult ComesToShow(Frame& frame, int index = kPlain, int look 
 
 void ShowEveryState(Frame* frame) {
     frame->m_commands.clear();
-    EXPECT_TRUE(ComesToShow(*frame));
+    ASSERT_TRUE(ComesToShow(*frame));
     for (const int index : {kPlain, kChecked, kSplit, kDisabled}) {
         frame->MoveMouseTo(frame->ButtonRect(index).CenterPoint());
         EXPECT_TRUE(ComesToShow(*frame, index, kHot)) << index;
@@ -279,6 +268,8 @@ TEST(ToolBarXP, ShowsEveryStateInEveryScheme) {
         SCOPED_TRACE(scheme.name);
         const automation::SystemColorGuard colors(scheme.colors);
         ShowEveryState(frame);
+        if (HasFailure())
+            break; // each picture that does not come takes seconds
     }
     frame->DestroyWindow();
 }
