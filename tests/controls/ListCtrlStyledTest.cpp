@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -33,6 +34,7 @@ public:
     int m_paints = 0;
     /// Font bits by item and column; 16: 20 high, 32: selected
     std::map<std::pair<int, int>, DWORD> m_fonts;
+    std::function<void()> m_whenAskedForText = [] {};
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
@@ -43,6 +45,8 @@ protected:
         // What an item's change does in a paint under Windows; Wine leaves it out.
         if (message == WM_NOTIFY && draw.nmcd.hdr.code == LVN_ITEMCHANGED)
             Invalidate();
+        if (message == WM_NOTIFY && draw.nmcd.hdr.code == LVN_GETDISPINFOA)
+            m_whenAskedForText();
         return handled;
     }
 
@@ -303,6 +307,13 @@ TEST(ListCtrlStyled, SelectionHasItsOwnColorsAndIsGivenBack) {
     host.Look();
     EXPECT_EQ(host.Back(1, 1), kYellow);
 
+    DWORD_PTR data = 0; // what a program finds out for the text it may keep with the item
+    list.m_whenAskedForText = [&] { data < 7 ? list.SetItemData(1, ++data) : FALSE; };
+    list.SetItemText(1, 2, LPSTR_TEXTCALLBACK);
+    host.Look();
+    EXPECT_EQ(list.GetItemData(1), 7U);
+    EXPECT_EQ(list.GetItemState(1, LVIS_SELECTED), UINT{LVIS_SELECTED});
+
     const CRect invalid(7, 30, 40, 50);
     list.InvalidateRect(&invalid, FALSE);
     Canvas canvas(400, 200);
@@ -339,6 +350,10 @@ TEST(ListCtrlStyled, Fonts) {
         list.SetFont(&fonts[large]);
         expectAll(32 | large * 16U);
     }
+    const HWND window = list.UnsubclassWindow(); // what happens meanwhile goes unseen
+    ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(fonts[0].m_hObject), 0);
+    list.SubclassWindow(window);
+    expectAll(32);
     list.SetFont(nullptr);
 }
 
