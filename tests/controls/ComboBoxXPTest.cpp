@@ -265,14 +265,24 @@ TEST(ComboBoxXP, EnterAndEscapeOnABar) {
 
 TEST(ComboBoxXP, LeavesTheFieldToAComboBoxThatLivesOn) {
     const ComboDialog dialog;
-    const HWND window = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50,
-                                          50, dialog, nullptr, nullptr, nullptr);
+    HWND combos[2];
+    HWND fields[2];
+    for (const int i : {0, 1}) {
+        combos[i] = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50, 50,
+                                      dialog, nullptr, nullptr, nullptr);
+        fields[i] = ::FindWindowExA(combos[i], nullptr, "Edit", nullptr);
+    }
     {
         CComboBoxXP passing;
-        passing.SubclassWindow(window);
-        passing.UnsubclassWindow();
+        for (const int i : {0, 1}) {
+            passing.SubclassWindow(combos[i]);
+            EXPECT_NE(CWnd::FromHandlePermanent(fields[i]), nullptr) << i;
+            passing.UnsubclassWindow();
+        }
+        EXPECT_EQ(CWnd::FromHandlePermanent(fields[0]), nullptr) << "one at a time";
     }
-    EXPECT_NE(::FindWindowExA(window, nullptr, "Edit", nullptr), nullptr);
+    for (const int i : {0, 1})
+        EXPECT_TRUE(::IsWindow(fields[i]) && CWnd::FromHandlePermanent(fields[i]) == nullptr) << i;
 }
 
 // ---- Height -------------------------------------------------------------------------------------
