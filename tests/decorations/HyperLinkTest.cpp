@@ -388,7 +388,8 @@ TEST(HyperLink, TheHandIsThatOfTheHelpProgram) {
         EXPECT_NE(hand, g_loadCursor(nullptr, IDC_HAND)) << "a copy";
         automation::MoveMouseOver(dialog.m_subject.m_hWnd);
         EXPECT_TRUE(PumpUntil([&] { return ::GetCursor() == hand; }));
-        EXPECT_TRUE(::GetIconInfo(hand, &info));
+        dialog.m_subject.SetLinkCursor(dialog.m_subject.GetLinkCursor());
+        EXPECT_TRUE(::GetIconInfo(hand, &info)) << "set again, it stays";
     }
     EXPECT_FALSE(::GetIconInfo(hand, &info)) << "gone with the link";
 
