@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "automation/Picture.h"
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/ImportPatch.h"
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "automation/Picture.h"
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiLedger.h"
 
