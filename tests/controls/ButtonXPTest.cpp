@@ -12,6 +12,7 @@
 #include "automation/Picture.h"
 #include "automation/SystemColors.h"
 #include "draw/Hls.h"
+#include "draw/Selectors.h"
 #include "draw/Skin.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiLedger.h"
@@ -200,6 +201,26 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     tint::EnableSkin(late, true);
     EXPECT_EQ(late.GetStyle(), before | BS_OWNERDRAW);
     late.UnsubclassWindow();
+}
+
+TEST(ButtonXP, TheCaptionIsOneCentredLineInTheSystemsFont) {
+    ButtonDialog dialog;
+    dialog.m_subject.SetWindowText("two\r\nlines");
+    const Canvas shown(82, 42);
+    const Canvas expected(82, 42);
+    DRAWITEMSTRUCT item = {};
+    item.hDC = shown.dc();
+    item.rcItem = {0, 0, 82, 42};
+    dialog.m_subject.DrawItem(&item);
+
+    const CPenSelector frame(expected.dc(), Resting().frame);
+    const CBrushSelector face(expected.dc(), Resting().face);
+    const CDCObjectSaver font(expected.dc(), DEFAULT_GUI_FONT, Resting().text);
+    ::Rectangle(expected.dc(), 0, 0, 82, 42);
+    ::SetBkMode(expected.dc(), TRANSPARENT);
+    ::DrawTextA(expected.dc(), "two\r\nlines", -1, &item.rcItem,
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    EXPECT_EQ(shown.Snapshot(), expected.Snapshot());
 }
 
 TEST(ButtonXP, APaintLeavesTheContextAsFoundAndGivesEverythingBack) {
