@@ -175,11 +175,13 @@ void WalkThroughStates(CComboBoxXP& combo, int frame, const Look& focused) {
     ParkMouse();
     EXPECT_TRUE(ComesToShow(combo, Resting(frame))) << "after the mouse has left the text";
     combo.SetFocus();
+    EXPECT_TRUE(ComesToShow(combo, focused));
     for (const Look& look : {Lit(true), focused, Lit(true), focused}) {
         automation::TypeKey(VK_F4); // opens and closes the list
         EXPECT_TRUE(ComesToShow(combo, look));
     }
     combo.GetParent()->SetFocus();
+    EXPECT_TRUE(ComesToShow(combo, Resting(frame))) << "without the focus";
     combo.EnableWindow(FALSE);
     EXPECT_TRUE(ComesToShow(combo, Resting(frame, false)));
     combo.EnableWindow();

@@ -34,6 +34,8 @@ public:
     int m_paints = 0;
     /// Font bits by item and column; 16: 20 high, 32: selected
     std::map<std::pair<int, int>, DWORD> m_fonts;
+    COLORREF m_text = 0; ///< of the cell drawn last
+    COLORREF m_back = 0;
     std::function<void()> m_whenAskedForText = [] {};
 
 protected:
@@ -55,6 +57,8 @@ private:
         m_paints += draw.nmcd.dwDrawStage == CDDS_PREPAINT;
         if (draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM))
             return;
+        m_text = draw.clrText;
+        m_back = draw.clrTextBk;
         LOGFONT font = {};
         ::GetObject(::GetCurrentObject(draw.nmcd.hdc, OBJ_FONT), sizeof font, &font);
         m_fonts[{static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem}] =
@@ -355,6 +359,59 @@ TEST(ListCtrlStyled, Fonts) {
     list.SubclassWindow(window);
     expectAll(32);
     list.SetFont(nullptr);
+}
+
+TEST(ListCtrlStyled, EachSetterReachesItsLevelAndState) {
+    constexpr DWORD colored = kBack | ListStyle::kHasTextColor;
+    CFont large;
+    large.CreateFont(-20, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Tahoma");
+    using List = CListCtrlStyled;
+    const std::function<bool(List&)> cases[][2] = {
+        {[&](List& l) {
+             return l.SetCellFlags(0, 1, colored) && l.SetCellTextColor(0, 1, kRed) &&
+                    l.SetCellBackColor(0, 1, kBlue) && l.SetCellFont(0, 1, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedCellFlags(0, 1, colored) &&
+                    l.SetSelectedCellTextColor(0, 1, kRed) &&
+                    l.SetSelectedCellBackColor(0, 1, kBlue) && l.SetSelectedCellFont(0, 1, large);
+         }},
+        {[&](List& l) {
+             return l.SetRowFlags(0, colored) && l.SetRowTextColor(0, kRed) &&
+                    l.SetRowBackColor(0, kBlue) && l.SetRowFont(0, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedRowFlags(0, colored) && l.SetSelectedRowTextColor(0, kRed) &&
+                    l.SetSelectedRowBackColor(0, kBlue) && l.SetSelectedRowFont(0, large);
+         }},
+        {[&](List& l) {
+             return l.SetColumnFlags(1, colored) && l.SetColumnTextColor(1, kRed) &&
+                    l.SetColumnBackColor(1, kBlue) && l.SetColumnFont(1, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedColumnFlags(1, colored) && l.SetSelectedColumnTextColor(1, kRed) &&
+                    l.SetSelectedColumnBackColor(1, kBlue) && l.SetSelectedColumnFont(1, large);
+         }},
+    };
+    for (const auto& states : cases)
+        for (const bool ofSelected : {false, true}) {
+            SCOPED_TRACE(2 * (&states - cases) + ofSelected);
+            Host<Subject> host(1, 2);
+            host.m_list.SetCellFlags(0, 1, 0); // which lets the fonts of row and column through
+            EXPECT_TRUE(states[ofSelected](host.m_list));
+            for (const bool selected : {false, true}) {
+                host.m_list.SetItemState(0, selected ? LVIS_SELECTED : 0, LVIS_SELECTED);
+                host.m_list.RedrawWindow();
+                const bool shown = selected == ofSelected;
+                const COLORREF text =
+                    selected ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : host.m_list.GetTextColor();
+                const COLORREF back =
+                    selected ? ::GetSysColor(COLOR_HIGHLIGHT) : host.m_list.GetTextBkColor();
+                EXPECT_EQ(host.m_list.m_text, shown ? kRed : text) << selected;
+                EXPECT_EQ(host.m_list.m_back, shown ? kBlue : back) << selected;
+                EXPECT_EQ((host.m_list.m_fonts[{0, 1}] & 16U) != 0, shown || !ofSelected);
+            }
+        }
 }
 
 TEST(ListCtrlStyled, StylesGoWithTheirItems) {

@@ -196,6 +196,7 @@ HWND VisibleTip() {
 TEST(HyperLink, TheToolTipShowsTheTargetOfTheMoment) {
     LinkDialog dialog("Home page", 0, "http://first/");
     const std::string target = "http://large/?a=1&b=2" + std::string(600, 'l');
+    dialog.m_subject.SetWindowText("A much longer text than before"); // the tip grows with the link
     dialog.m_subject.SetURL(target.c_str());
     automation::MoveMouseOver(dialog.m_subject.m_hWnd);
     EXPECT_TRUE(PumpUntil([] { return VisibleTip() != nullptr; }));
