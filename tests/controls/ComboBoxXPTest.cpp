@@ -71,8 +71,13 @@ public:
     ~ComboDialog() override { DestroyWindow(); }
 
     CComboBoxXP m_subject;
+    int m_openings = 0; ///< of the list, that the dialog is told of
 
 protected:
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        m_openings += id == kSubject && code == CBN_DROPDOWN;
+        return Listening::OnCmdMsg(id, code, extra, info);
+    }
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
         DDX_Control(exchange, kSubject, m_subject);
@@ -194,6 +199,7 @@ TEST(ComboBoxXP, ColorsFollowEveryState) {
         for (const DWORD style : kStyles) {
             ComboDialog dialog(style);
             WalkThroughStates(dialog.m_subject, COLOR_BTNSHADOW, Resting(COLOR_BTNSHADOW));
+            EXPECT_EQ(dialog.m_openings, 2);
         }
         ComboFrame frame;
         WalkThroughStates(frame.m_subject, COLOR_WINDOW, Lit());

@@ -38,6 +38,14 @@ public:
     COLORREF m_back = 0;
     std::function<void()> m_whenAskedForText = [] {};
 
+    /// What the list view itself keeps as the parameter.
+    LPARAM KeyOfFirst() {
+        LVITEM item = {};
+        item.mask = LVIF_PARAM;
+        DefWindowProc(LVM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
+        return item.lParam;
+    }
+
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         const BOOL handled = CListCtrlStyled::OnChildNotify(message, wParam, lParam, result);
@@ -172,6 +180,7 @@ std::vector<std::string> UseParameters() {
     host.Log("wide", send(LVM_INSERTITEMW, 0, &wide), wide.lParam);
     list.InsertItem(2, "without");
     wide.iSubItem = 1;
+    wide.lParam = 11; // subitems have none
     host.Log("as subitem", send(LVM_INSERTITEMW, 0, &wide), send(LVM_SETITEMW, 0, &wide));
     logAll("inserted");
 
@@ -216,6 +225,41 @@ TEST(ListCtrlStyled, ParametersAreTheCallersAsInThePlainList) {
     ASSERT_EQ(styled.size(), plain.size());
     for (std::size_t i = 0; i < plain.size(); ++i)
         EXPECT_EQ(styled[i], plain[i]) << i;
+}
+
+/// The parameter that the parent sees in a notification.
+template <class Notification, class Field>
+LPARAM SeenByParent(Host<Subject>& host, UINT code, Field parameter) {
+    Notification notification = {};
+    notification.hdr = {host.m_list, 5, code};
+    parameter(notification) = host.m_list.KeyOfFirst();
+    host.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&notification));
+    return parameter(notification);
+}
+
+TEST(ListCtrlStyled, EveryNotificationCarriesTheCallersValue) {
+    Host<Subject> host(1, 1);
+    host.m_list.SetItemData(0, 42);
+    ASSERT_NE(host.m_list.KeyOfFirst(), 42);
+    for (const UINT code : {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_DELETEITEM,
+                            LVN_BEGINDRAG, LVN_BEGINRDRAG, LVN_ITEMACTIVATE, LVN_HOTTRACK, NM_CLICK,
+                            NM_DBLCLK, NM_RCLICK, NM_RDBLCLK})
+        EXPECT_EQ((SeenByParent<NMLISTVIEW>(
+                      host, code, [](auto& n) -> auto& { return n.lParam; })),
+                  42)
+            << static_cast<int>(code);
+    for (const UINT code :
+         {LVN_GETDISPINFOA, LVN_GETDISPINFOW, LVN_SETDISPINFOA, LVN_SETDISPINFOW,
+          LVN_BEGINLABELEDITA, LVN_BEGINLABELEDITW, LVN_ENDLABELEDITA, LVN_ENDLABELEDITW})
+        EXPECT_EQ((SeenByParent<NMLVDISPINFO>(
+                      host, code, [](auto& n) -> auto& { return n.item.lParam; })),
+                  42)
+            << static_cast<int>(code);
+    for (const UINT code : {LVN_GETINFOTIPA, LVN_GETINFOTIPW})
+        EXPECT_EQ((SeenByParent<NMLVGETINFOTIP>(
+                      host, code, [](auto& n) -> auto& { return n.lParam; })),
+                  42)
+            << static_cast<int>(code);
 }
 
 TEST(ListCtrlStyled, TakesOverTheItemsOfAListThatIsThere) {
