@@ -73,6 +73,8 @@ void CComboBoxXP::SetUp() {
     m_hover.Attach(m_hWnd, CMouseHoverTracker::kRepaint);
     // The common controls from version 6 on go by this number, others by the window's height.
     SendMessage(CB_SETMINVISIBLE, m_visibleRows, 0);
+    if (m_edit.m_hWnd != nullptr && ::GetParent(m_edit.m_hWnd) != m_hWnd)
+        m_edit.UnsubclassWindow(); // the field of another combo box, which this was before
     const HWND edit = ::FindWindowExA(m_hWnd, nullptr, WC_EDITA, nullptr);
     if (edit != nullptr && m_edit.m_hWnd == nullptr && CWnd::FromHandlePermanent(edit) == nullptr)
         m_edit.SubclassWindow(edit);

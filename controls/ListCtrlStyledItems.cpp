@@ -33,6 +33,7 @@ LVITEM ParameterOf(int item) {
 
 void CListCtrlStyled::PreSubclassWindow() {
     CListCtrl::PreSubclassWindow();
+    m_hasBaseFont = false; // the list's font may have changed unseen
     // Messages do not come here yet: these are answered by the list view itself.
     if ((GetStyle() & LVS_OWNERDATA) != 0)
         return;
@@ -116,6 +117,8 @@ LRESULT CListCtrlStyled::OnSetItem(WPARAM wParam, LPARAM lParam) {
     const LRESULT done = DefWindowProc(message, wParam, reinterpret_cast<LPARAM>(&item));
     if (done == FALSE)
         m_records.MoveStyles(newKey, key);
+    else if (m_hiddenKey == key)
+        m_hiddenKey = newKey; // the item that is being painted just now
     m_records.Remove(done != FALSE ? key : newKey);
     return done;
 }

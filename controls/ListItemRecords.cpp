@@ -7,9 +7,9 @@ namespace tint {
 
 static_assert(sizeof(LPARAM) == 8, "a key holds a slot and a generation of 32 bits each");
 
-ListStyle* ListItemStyles::Cell(int column) const {
+ListStyle* ListItemStyles::Cell(int column) {
     if (column == 0)
-        return const_cast<ListStyle*>(&first);
+        return &first;
     const auto index = static_cast<std::size_t>(column) - 1;
     return index < cells.size() ? cells[index].get() : nullptr;
 }

@@ -18,7 +18,7 @@ struct ListItemStyles {
         cells; ///< of column 1 and up; null or past the end: none
 
     /// The style of a cell; null when it has none.
-    ListStyle* Cell(int column) const;
+    ListStyle* Cell(int column);
 
     /// The style of a cell, created when it has none.
     /// @param column  at least 0

@@ -125,6 +125,8 @@ void CHyperLink::SetVisited(BOOL visited) {
 }
 
 void CHyperLink::SetLinkCursor(HCURSOR cursor) {
+    if (cursor != nullptr && cursor == m_hand.get())
+        return; // to load another one would end it
     m_hand.reset();
     if (cursor == nullptr) {
         m_hand = LoadHand();

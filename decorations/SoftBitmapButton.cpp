@@ -15,6 +15,7 @@ END_MESSAGE_MAP()
 void CSoftBitmapButton::PreSubclassWindow() {
     CBitmapButton::PreSubclassWindow();
     ModifyStyle(0, BS_OWNERDRAW);
+    m_mouseOver = 0; // a former window may have gone with the mouse over it, and is never left
 }
 
 void CSoftBitmapButton::OnMouseMove(UINT, CPoint) {

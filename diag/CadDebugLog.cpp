@@ -35,6 +35,7 @@ char* FindLast(char* text, const char* wanted) {
 }
 
 void GetProgramPath(Path& path) {
+    path[0] = '\0'; // where the system knows no name
     ::GetModuleFileNameA(nullptr, path, sizeof path);
     path[sizeof path - 1] = '\0'; // a name that is cut may come without its end
 }

@@ -10,58 +10,32 @@
 #include <tuple>
 
 #include "automation/Picture.h"
-#include "automation/RealInput.h"
 #include "automation/SystemColors.h"
 #include "draw/Hls.h"
+#include "draw/Selectors.h"
 #include "draw/Skin.h"
 #include "tests/support/Canvas.h"
-#include "tests/support/DialogTemplate.h"
 #include "tests/support/GdiLedger.h"
-#include "tests/support/Pump.h"
+#include "tests/support/SubjectDialog.h"
 
 using automation::Picture;
 
 namespace {
 
 constexpr WORD kOther = 100;
-constexpr WORD kSubject = 101;
 
-/// A dialog with a plain button, which has the focus at first, and the skinned one.
-class ButtonDialog : public CDialog {
+class ButtonDialog : public SubjectDialog<CButtonXP> {
 public:
-    explicit ButtonDialog(DWORD subjectStyle = BS_PUSHBUTTON) {
-        m_template.Add("BUTTON", "Other", kOther, BS_PUSHBUTTON | WS_TABSTOP, 10, 10, 60, 16)
-            .Add("BUTTON", "MHMHM", kSubject, subjectStyle | WS_TABSTOP, 10, 40, 60, 20);
-        CreateIndirect(m_template.Get(), nullptr);
-        ::SetForegroundWindow(m_hWnd);
-        ParkMouse();
+    explicit ButtonDialog(DWORD style = BS_PUSHBUTTON) {
+        Open("BUTTON", "MHMHM", style | WS_TABSTOP);
     }
+    ~ButtonDialog() override { automation::ReleaseMouse(); }
 
-    ~ButtonDialog() override {
-        automation::ReleaseMouse();
-        DestroyWindow();
-        ParkMouse();
-    }
-
-    static void ParkMouse() {
-        automation::MoveMouse({700, 500});
-        PumpFor(30);
-    }
-
-    CButtonXP m_subject;
     int m_clicks = 0;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override {
-        CDialog::DoDataExchange(exchange);
-        DDX_Control(exchange, kSubject, m_subject);
-    }
-
     afx_msg void OnClicked() { ++m_clicks; }
     DECLARE_MESSAGE_MAP()
-
-private:
-    DialogTemplate m_template{"Buttons", 120, 80};
 };
 
 BEGIN_MESSAGE_MAP(ButtonDialog, CDialog)
@@ -188,9 +162,8 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     CButtonXP& subject = dialog.m_subject;
     CRect rect;
     subject.GetWindowRect(rect);
-    dialog.SetWindowPos(nullptr, 0, 0, 300, 200, SWP_NOMOVE | SWP_NOZORDER); // room for one more
     CButton plain;
-    plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({10, 100}, rect.Size()),
+    plain.Create("MHMHM", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect({150, 100}, rect.Size()),
                  &dialog, kOther + 10);
     plain.SetFont(dialog.GetFont());
     const auto showsTheSame = [&] {
@@ -230,6 +203,26 @@ TEST(ButtonXP, WithoutItsSkinItIsTheSystemsOwnButton) {
     late.UnsubclassWindow();
 }
 
+TEST(ButtonXP, TheCaptionIsOneCentredLineInTheSystemsFont) {
+    ButtonDialog dialog;
+    dialog.m_subject.SetWindowText("two\r\nlines");
+    const Canvas shown(82, 42);
+    const Canvas expected(82, 42);
+    DRAWITEMSTRUCT item = {};
+    item.hDC = shown.dc();
+    item.rcItem = {0, 0, 82, 42};
+    dialog.m_subject.DrawItem(&item);
+
+    const CPenSelector frame(expected.dc(), Resting().frame);
+    const CBrushSelector face(expected.dc(), Resting().face);
+    const CDCObjectSaver font(expected.dc(), DEFAULT_GUI_FONT, Resting().text);
+    ::Rectangle(expected.dc(), 0, 0, 82, 42);
+    ::SetBkMode(expected.dc(), TRANSPARENT);
+    ::DrawTextA(expected.dc(), "two\r\nlines", -1, &item.rcItem,
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    EXPECT_EQ(shown.Snapshot(), expected.Snapshot());
+}
+
 TEST(ButtonXP, APaintLeavesTheContextAsFoundAndGivesEverythingBack) {
     ButtonDialog dialog;
     const Canvas canvas(200, 60);
@@ -251,7 +244,7 @@ TEST(ButtonXP, APaintLeavesTheContextAsFoundAndGivesEverythingBack) {
             dialog.m_subject.DrawItem(&item);
             EXPECT_TRUE(state() == found);
             EXPECT_EQ(ledger.Unreturned() + ledger.Faults(), "");
-            EXPECT_EQ(ledger.Made(), target == dc ? 4 : ledger.Made())
+            EXPECT_TRUE(target != dc || ledger.Made() == 4)
                 << "one context, one bitmap, one pen, one brush";
         }
 }

@@ -71,8 +71,13 @@ public:
     ~ComboDialog() override { DestroyWindow(); }
 
     CComboBoxXP m_subject;
+    int m_openings = 0; ///< of the list, that the dialog is told of
 
 protected:
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        m_openings += id == kSubject && code == CBN_DROPDOWN;
+        return Listening::OnCmdMsg(id, code, extra, info);
+    }
     void DoDataExchange(CDataExchange* exchange) override {
         CDialog::DoDataExchange(exchange);
         DDX_Control(exchange, kSubject, m_subject);
@@ -175,11 +180,13 @@ void WalkThroughStates(CComboBoxXP& combo, int frame, const Look& focused) {
     ParkMouse();
     EXPECT_TRUE(ComesToShow(combo, Resting(frame))) << "after the mouse has left the text";
     combo.SetFocus();
+    EXPECT_TRUE(ComesToShow(combo, focused));
     for (const Look& look : {Lit(true), focused, Lit(true), focused}) {
         automation::TypeKey(VK_F4); // opens and closes the list
         EXPECT_TRUE(ComesToShow(combo, look));
     }
     combo.GetParent()->SetFocus();
+    EXPECT_TRUE(ComesToShow(combo, Resting(frame))) << "without the focus";
     combo.EnableWindow(FALSE);
     EXPECT_TRUE(ComesToShow(combo, Resting(frame, false)));
     combo.EnableWindow();
@@ -192,6 +199,7 @@ TEST(ComboBoxXP, ColorsFollowEveryState) {
         for (const DWORD style : kStyles) {
             ComboDialog dialog(style);
             WalkThroughStates(dialog.m_subject, COLOR_BTNSHADOW, Resting(COLOR_BTNSHADOW));
+            EXPECT_EQ(dialog.m_openings, 2);
         }
         ComboFrame frame;
         WalkThroughStates(frame.m_subject, COLOR_WINDOW, Lit());
@@ -265,14 +273,24 @@ TEST(ComboBoxXP, EnterAndEscapeOnABar) {
 
 TEST(ComboBoxXP, LeavesTheFieldToAComboBoxThatLivesOn) {
     const ComboDialog dialog;
-    const HWND window = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50,
-                                          50, dialog, nullptr, nullptr, nullptr);
+    HWND combos[2];
+    HWND fields[2];
+    for (const int i : {0, 1}) {
+        combos[i] = ::CreateWindowExW(0, L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50, 50,
+                                      dialog, nullptr, nullptr, nullptr);
+        fields[i] = ::FindWindowExA(combos[i], nullptr, "Edit", nullptr);
+    }
     {
         CComboBoxXP passing;
-        passing.SubclassWindow(window);
-        passing.UnsubclassWindow();
+        for (const int i : {0, 1}) {
+            passing.SubclassWindow(combos[i]);
+            EXPECT_NE(CWnd::FromHandlePermanent(fields[i]), nullptr) << i;
+            passing.UnsubclassWindow();
+        }
+        EXPECT_EQ(CWnd::FromHandlePermanent(fields[0]), nullptr) << "one at a time";
     }
-    EXPECT_NE(::FindWindowExA(window, nullptr, "Edit", nullptr), nullptr);
+    for (const int i : {0, 1})
+        EXPECT_TRUE(::IsWindow(fields[i]) && CWnd::FromHandlePermanent(fields[i]) == nullptr) << i;
 }
 
 // ---- Height -------------------------------------------------------------------------------------

@@ -290,6 +290,7 @@ public:
     LoggedButton m_button;
     UINT m_repeatTimer = 0;
     int m_keys = 0;
+    int m_moves = 0;
     int m_repeats = 0;
 
 protected:
@@ -297,6 +298,7 @@ protected:
         switch (message) {
         case WM_MOUSEMOVE:
         case WM_NCMOUSEMOVE:
+            ++m_moves;
             m_button.OnMouseMove(m_hWnd, InWindow(lParam, message == WM_MOUSEMOVE));
             return 0;
         case WM_LBUTTONDOWN:
@@ -355,6 +357,7 @@ TEST_P(DrawButtonIn, ClickLoopEndsAsThePersonEndsIt) {
     const auto right = [] { automation::PressMouse(automation::MouseButton::Right); };
     const auto cancel = [&] { host.PostMessage(WM_CANCELMODE); };
     const auto systemCancel = [&] { host.SendMessage(WM_CANCELMODE); };
+    const auto moveOfOther = [&] { other.PostMessage(WM_MOUSEMOVE, 0, MAKELPARAM(900, 900)); };
     const auto steal = [&] { other.SetCapture(); };
 
     struct Row {
@@ -375,6 +378,7 @@ TEST_P(DrawButtonIn, ClickLoopEndsAsThePersonEndsIt) {
         {{5, 5}, {right}, 0, {down, 0}},
         {{5, 5}, {cancel}, 0, {down, 0}},
         {{5, 5}, {systemCancel}, 0, {down, 0}},
+        {{5, 5}, {moveOfOther, release}, clicked, {down, 0}},
         {{5, 5}, {steal}, 0, {down, 0}},
     };
     for (const Row& row : table) {
@@ -402,6 +406,9 @@ TEST_P(DrawButtonIn, FollowsTheMouseInTheFlatLook) {
     host.Point(9, 9);
     PumpFor(60);
     EXPECT_EQ(host.m_button.m_states, std::vector<UINT>{0}) << "drawn once";
+    host.m_moves = 0;
+    PumpFor(2 * 300);
+    EXPECT_EQ(host.m_moves, 0) << "the timer tells only of having left";
     host.Point(300, 200); // another window: only the timer tells
     EXPECT_TRUE(comesToShow(::GetSysColor(COLOR_BTNFACE)));
     EXPECT_EQ(host.m_button.GetFlags(), flags);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -33,6 +34,17 @@ public:
     int m_paints = 0;
     /// Font bits by item and column; 16: 20 high, 32: selected
     std::map<std::pair<int, int>, DWORD> m_fonts;
+    COLORREF m_text = 0; ///< of the cell drawn last
+    COLORREF m_back = 0;
+    std::function<void()> m_whenAskedForText = [] {};
+
+    /// What the list view itself keeps as the parameter.
+    LPARAM KeyOfFirst() {
+        LVITEM item = {};
+        item.mask = LVIF_PARAM;
+        DefWindowProc(LVM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
+        return item.lParam;
+    }
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
@@ -43,6 +55,8 @@ protected:
         // What an item's change does in a paint under Windows; Wine leaves it out.
         if (message == WM_NOTIFY && draw.nmcd.hdr.code == LVN_ITEMCHANGED)
             Invalidate();
+        if (message == WM_NOTIFY && draw.nmcd.hdr.code == LVN_GETDISPINFOA)
+            m_whenAskedForText();
         return handled;
     }
 
@@ -51,6 +65,8 @@ private:
         m_paints += draw.nmcd.dwDrawStage == CDDS_PREPAINT;
         if (draw.nmcd.dwDrawStage != (CDDS_ITEMPREPAINT | CDDS_SUBITEM))
             return;
+        m_text = draw.clrText;
+        m_back = draw.clrTextBk;
         LOGFONT font = {};
         ::GetObject(::GetCurrentObject(draw.nmcd.hdc, OBJ_FONT), sizeof font, &font);
         m_fonts[{static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem}] =
@@ -164,6 +180,7 @@ std::vector<std::string> UseParameters() {
     host.Log("wide", send(LVM_INSERTITEMW, 0, &wide), wide.lParam);
     list.InsertItem(2, "without");
     wide.iSubItem = 1;
+    wide.lParam = 11; // subitems have none
     host.Log("as subitem", send(LVM_INSERTITEMW, 0, &wide), send(LVM_SETITEMW, 0, &wide));
     logAll("inserted");
 
@@ -208,6 +225,41 @@ TEST(ListCtrlStyled, ParametersAreTheCallersAsInThePlainList) {
     ASSERT_EQ(styled.size(), plain.size());
     for (std::size_t i = 0; i < plain.size(); ++i)
         EXPECT_EQ(styled[i], plain[i]) << i;
+}
+
+/// The parameter that the parent sees in a notification.
+template <class Notification, class Field>
+LPARAM SeenByParent(Host<Subject>& host, UINT code, Field parameter) {
+    Notification notification = {};
+    notification.hdr = {host.m_list, 5, code};
+    parameter(notification) = host.m_list.KeyOfFirst();
+    host.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&notification));
+    return parameter(notification);
+}
+
+TEST(ListCtrlStyled, EveryNotificationCarriesTheCallersValue) {
+    Host<Subject> host(1, 1);
+    host.m_list.SetItemData(0, 42);
+    ASSERT_NE(host.m_list.KeyOfFirst(), 42);
+    for (const UINT code : {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_DELETEITEM,
+                            LVN_BEGINDRAG, LVN_BEGINRDRAG, LVN_ITEMACTIVATE, LVN_HOTTRACK, NM_CLICK,
+                            NM_DBLCLK, NM_RCLICK, NM_RDBLCLK})
+        EXPECT_EQ((SeenByParent<NMLISTVIEW>(
+                      host, code, [](auto& n) -> auto& { return n.lParam; })),
+                  42)
+            << static_cast<int>(code);
+    for (const UINT code :
+         {LVN_GETDISPINFOA, LVN_GETDISPINFOW, LVN_SETDISPINFOA, LVN_SETDISPINFOW,
+          LVN_BEGINLABELEDITA, LVN_BEGINLABELEDITW, LVN_ENDLABELEDITA, LVN_ENDLABELEDITW})
+        EXPECT_EQ((SeenByParent<NMLVDISPINFO>(
+                      host, code, [](auto& n) -> auto& { return n.item.lParam; })),
+                  42)
+            << static_cast<int>(code);
+    for (const UINT code : {LVN_GETINFOTIPA, LVN_GETINFOTIPW})
+        EXPECT_EQ((SeenByParent<NMLVGETINFOTIP>(
+                      host, code, [](auto& n) -> auto& { return n.lParam; })),
+                  42)
+            << static_cast<int>(code);
 }
 
 TEST(ListCtrlStyled, TakesOverTheItemsOfAListThatIsThere) {
@@ -303,6 +355,13 @@ TEST(ListCtrlStyled, SelectionHasItsOwnColorsAndIsGivenBack) {
     host.Look();
     EXPECT_EQ(host.Back(1, 1), kYellow);
 
+    DWORD_PTR data = 0; // what a program finds out for the text it may keep with the item
+    list.m_whenAskedForText = [&] { data < 7 ? list.SetItemData(1, ++data) : FALSE; };
+    list.SetItemText(1, 2, LPSTR_TEXTCALLBACK);
+    host.Look();
+    EXPECT_EQ(list.GetItemData(1), 7U);
+    EXPECT_EQ(list.GetItemState(1, LVIS_SELECTED), UINT{LVIS_SELECTED});
+
     const CRect invalid(7, 30, 40, 50);
     list.InvalidateRect(&invalid, FALSE);
     Canvas canvas(400, 200);
@@ -339,7 +398,64 @@ TEST(ListCtrlStyled, Fonts) {
         list.SetFont(&fonts[large]);
         expectAll(32 | large * 16U);
     }
+    const HWND window = list.UnsubclassWindow(); // what happens meanwhile goes unseen
+    ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(fonts[0].m_hObject), 0);
+    list.SubclassWindow(window);
+    expectAll(32);
     list.SetFont(nullptr);
+}
+
+TEST(ListCtrlStyled, EachSetterReachesItsLevelAndState) {
+    constexpr DWORD colored = kBack | ListStyle::kHasTextColor;
+    CFont large;
+    large.CreateFont(-20, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Tahoma");
+    using List = CListCtrlStyled;
+    const std::function<bool(List&)> cases[][2] = {
+        {[&](List& l) {
+             return l.SetCellFlags(0, 1, colored) && l.SetCellTextColor(0, 1, kRed) &&
+                    l.SetCellBackColor(0, 1, kBlue) && l.SetCellFont(0, 1, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedCellFlags(0, 1, colored) &&
+                    l.SetSelectedCellTextColor(0, 1, kRed) &&
+                    l.SetSelectedCellBackColor(0, 1, kBlue) && l.SetSelectedCellFont(0, 1, large);
+         }},
+        {[&](List& l) {
+             return l.SetRowFlags(0, colored) && l.SetRowTextColor(0, kRed) &&
+                    l.SetRowBackColor(0, kBlue) && l.SetRowFont(0, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedRowFlags(0, colored) && l.SetSelectedRowTextColor(0, kRed) &&
+                    l.SetSelectedRowBackColor(0, kBlue) && l.SetSelectedRowFont(0, large);
+         }},
+        {[&](List& l) {
+             return l.SetColumnFlags(1, colored) && l.SetColumnTextColor(1, kRed) &&
+                    l.SetColumnBackColor(1, kBlue) && l.SetColumnFont(1, large);
+         },
+         [&](List& l) {
+             return l.SetSelectedColumnFlags(1, colored) && l.SetSelectedColumnTextColor(1, kRed) &&
+                    l.SetSelectedColumnBackColor(1, kBlue) && l.SetSelectedColumnFont(1, large);
+         }},
+    };
+    for (const auto& states : cases)
+        for (const bool ofSelected : {false, true}) {
+            SCOPED_TRACE(2 * (&states - cases) + ofSelected);
+            Host<Subject> host(1, 2);
+            host.m_list.SetCellFlags(0, 1, 0); // which lets the fonts of row and column through
+            EXPECT_TRUE(states[ofSelected](host.m_list));
+            for (const bool selected : {false, true}) {
+                host.m_list.SetItemState(0, selected ? LVIS_SELECTED : 0, LVIS_SELECTED);
+                host.m_list.RedrawWindow();
+                const bool shown = selected == ofSelected;
+                const COLORREF text =
+                    selected ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : host.m_list.GetTextColor();
+                const COLORREF back =
+                    selected ? ::GetSysColor(COLOR_HIGHLIGHT) : host.m_list.GetTextBkColor();
+                EXPECT_EQ(host.m_list.m_text, shown ? kRed : text) << selected;
+                EXPECT_EQ(host.m_list.m_back, shown ? kBlue : back) << selected;
+                EXPECT_EQ((host.m_list.m_fonts[{0, 1}] & 16U) != 0, shown || !ofSelected);
+            }
+        }
 }
 
 TEST(ListCtrlStyled, StylesGoWithTheirItems) {

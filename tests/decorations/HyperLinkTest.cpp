@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "automation/Picture.h"
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/support/GdiLedger.h"
 #include "tests/support/ImportPatch.h"
 
@@ -89,8 +89,19 @@ public:
 
     FakeShell m_shell;
     std::vector<std::pair<WPARAM, LPARAM>> m_commands;
+    bool m_patterned = false; ///< hatched, with a stripe at the left
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (!m_patterned || message != WM_ERASEBKGND)
+            return SubjectDialog::WindowProc(message, wParam, lParam);
+        CDC* const dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+        CBrush hatch;
+        hatch.CreateHatchBrush(HS_BDIAGONAL, RGB(0, 200, 0));
+        dc->FillRect(CRect(0, 0, 500, 500), &hatch);
+        dc->FillSolidRect(0, 0, 30, 500, RGB(200, 200, 0));
+        return TRUE;
+    }
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         if (reinterpret_cast<HWND>(lParam) != m_subject.m_hWnd) // which is the click itself
             m_commands.push_back({wParam, lParam});
@@ -182,7 +193,31 @@ TEST(HyperLink, ColoursAndUnderlineFollowTheMouseInEveryMode) {
     EXPECT_TRUE(dialog.Shows(RGB(1, 2, 3), false));
     EXPECT_EQ(link.GetHoverColour(), ::GetSysColor(COLOR_HIGHLIGHT));
     link.SetWindowText("Page home");
-    EXPECT_TRUE(dialog.Shows(RGB(1, 2, 3), false)) << "the new text covers the old one";
+    PumpFor(50);
+    const Picture renamed = dialog.Shown();
+    link.Invalidate();
+    PumpFor(50);
+    EXPECT_TRUE(dialog.Shown() == renamed) << "nothing of the old text was left";
+}
+
+TEST(HyperLink, TheBackgroundOfTheDialogGoesOnBehindTheText) {
+    LinkDialog dialog;
+    dialog.m_patterned = true;
+    dialog.m_subject.SetWindowPos(nullptr, 13, 54, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    const auto look = [&](int show) {
+        dialog.m_subject.ShowWindow(show);
+        dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        PumpFor(50);
+        return dialog.Shown();
+    };
+    const Picture behind = look(SW_HIDE);
+    const Picture shown = look(SW_SHOW);
+    int text = 0;
+    for (std::size_t i = 0; i < shown.pixels.size(); ++i) {
+        text += shown.pixels[i] == kFresh;
+        ASSERT_TRUE(shown.pixels[i] == kFresh || shown.pixels[i] == behind.pixels[i]) << i;
+    }
+    EXPECT_GT(text, 0);
 }
 
 HWND VisibleTip() {
@@ -196,6 +231,7 @@ HWND VisibleTip() {
 TEST(HyperLink, TheToolTipShowsTheTargetOfTheMoment) {
     LinkDialog dialog("Home page", 0, "http://first/");
     const std::string target = "http://large/?a=1&b=2" + std::string(600, 'l');
+    dialog.m_subject.SetWindowText("A much longer text than before"); // the tip grows with the link
     dialog.m_subject.SetURL(target.c_str());
     automation::MoveMouseOver(dialog.m_subject.m_hWnd);
     EXPECT_TRUE(PumpUntil([] { return VisibleTip() != nullptr; }));
@@ -388,7 +424,8 @@ TEST(HyperLink, TheHandIsThatOfTheHelpProgram) {
         EXPECT_NE(hand, g_loadCursor(nullptr, IDC_HAND)) << "a copy";
         automation::MoveMouseOver(dialog.m_subject.m_hWnd);
         EXPECT_TRUE(PumpUntil([&] { return ::GetCursor() == hand; }));
-        EXPECT_TRUE(::GetIconInfo(hand, &info));
+        dialog.m_subject.SetLinkCursor(dialog.m_subject.GetLinkCursor());
+        EXPECT_TRUE(::GetIconInfo(hand, &info)) << "set again, it stays";
     }
     EXPECT_FALSE(::GetIconInfo(hand, &info)) << "gone with the link";
 

@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "automation/Picture.h"
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/image/BmpBuilder.h"
 #include "tests/image/PngBuilder.h"
 #include "tests/support/GdiLedger.h"

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/support/ImportPatch.h"
 
 namespace fs = std::filesystem;

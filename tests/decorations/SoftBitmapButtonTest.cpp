@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "automation/Picture.h"
-#include "tests/decorations/SubjectDialog.h"
+#include "tests/support/SubjectDialog.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiLedger.h"
 
@@ -109,6 +109,12 @@ TEST(SoftBitmapButton, FollowsTheMouseOnTheScreen) {
     EXPECT_TRUE(shows(0));
     automation::MoveMouseOver(subject.m_hWnd);
     EXPECT_TRUE(shows(2)) << "a second time";
+    subject.DestroyWindow(); // and in another dialog, although this one was never left
+    CButton again;
+    again.Create("", WS_CHILD | WS_VISIBLE, CRect(10, 40, 60, 60), &dialog, kSubject);
+    subject.SubclassWindow(again.UnsubclassWindow());
+    ButtonDialog::ParkMouse();
+    EXPECT_TRUE(shows(0));
 }
 
 } // namespace
