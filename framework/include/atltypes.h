@@ -18,9 +18,6 @@ public:
     CSize() noexcept;
     CSize(int initCX, int initCY) noexcept;
     CSize(SIZE initSize) noexcept;
-    CSize(POINT initPt) noexcept;
-    /// Unpacks a size from the low (cx) and high (cy) word, both signed.
-    CSize(DWORD dwSize) noexcept;
 
     BOOL operator==(SIZE size) const noexcept;
     BOOL operator!=(SIZE size) const noexcept;
@@ -29,14 +26,6 @@ public:
 
     CSize operator+(SIZE size) const noexcept;
     CSize operator-(SIZE size) const noexcept;
-    CSize operator-() const noexcept;
-    CPoint operator+(POINT point) const noexcept;
-    /// The point moved back by this size.
-    CPoint operator-(POINT point) const noexcept;
-    /// The rectangle moved by this size.
-    CRect operator+(const RECT* lpRect) const noexcept;
-    /// The rectangle moved back by this size.
-    CRect operator-(const RECT* lpRect) const noexcept;
 };
 
 /// A point of the plane.
@@ -47,29 +36,14 @@ public:
     CPoint(int initX, int initY) noexcept;
     CPoint(POINT initPt) noexcept;
     CPoint(SIZE initSize) noexcept;
-    /// Unpacks a point from the low (x) and high (y) word of a mouse message, both signed.
-    CPoint(LPARAM dwPoint) noexcept;
-
-    void Offset(int xOffset, int yOffset) noexcept;
-    void Offset(POINT point) noexcept;
-    void Offset(SIZE size) noexcept;
 
     BOOL operator==(POINT point) const noexcept;
     BOOL operator!=(POINT point) const noexcept;
-    void operator+=(SIZE size) noexcept;
-    void operator-=(SIZE size) noexcept;
-    void operator+=(POINT point) noexcept;
-    void operator-=(POINT point) noexcept;
 
     CPoint operator+(SIZE size) const noexcept;
     CPoint operator-(SIZE size) const noexcept;
     CPoint operator-() const noexcept;
-    CPoint operator+(POINT point) const noexcept;
     CSize operator-(POINT point) const noexcept;
-    /// The rectangle moved by this point.
-    CRect operator+(const RECT* lpRect) const noexcept;
-    /// The rectangle moved back by this point.
-    CRect operator-(const RECT* lpRect) const noexcept;
 };
 
 /// A rectangle. Most operations expect it normalized: left <= right and top <= bottom.
@@ -79,10 +53,7 @@ public:
     CRect() noexcept;
     CRect(int l, int t, int r, int b) noexcept;
     CRect(const RECT& srcRect) noexcept;
-    /// @param lpSrcRect rectangle to copy; must not be null.
-    CRect(LPCRECT lpSrcRect) noexcept;
     CRect(POINT point, SIZE size) noexcept;
-    CRect(POINT topLeft, POINT bottomRight) noexcept;
 
     int Width() const noexcept;
     int Height() const noexcept;
@@ -99,67 +70,31 @@ public:
 
     /// True when width or height is zero or negative.
     BOOL IsRectEmpty() const noexcept;
-    /// True when all four edges are zero.
-    BOOL IsRectNull() const noexcept;
     /// True when the point lies inside, counting the left and top but not the right and bottom edge.
     BOOL PtInRect(POINT point) const noexcept;
-    BOOL EqualRect(LPCRECT lpRect) const noexcept;
-
-    void SetRect(int x1, int y1, int x2, int y2) noexcept;
-    void SetRectEmpty() noexcept;
-    void CopyRect(LPCRECT lpSrcRect) noexcept;
 
     /// Moves each side outwards: x left and right, y top and bottom.
     void InflateRect(int x, int y) noexcept;
-    void InflateRect(SIZE size) noexcept;
-    /// Moves each side outwards by the member of the same name.
-    void InflateRect(LPCRECT lpRect) noexcept;
     void InflateRect(int l, int t, int r, int b) noexcept;
     /// Moves each side inwards: x left and right, y top and bottom.
     void DeflateRect(int x, int y) noexcept;
-    void DeflateRect(SIZE size) noexcept;
     /// Moves each side inwards by the member of the same name.
     void DeflateRect(LPCRECT lpRect) noexcept;
     void DeflateRect(int l, int t, int r, int b) noexcept;
 
     void OffsetRect(int x, int y) noexcept;
-    void OffsetRect(SIZE size) noexcept;
     void OffsetRect(POINT point) noexcept;
-    void MoveToX(int x) noexcept;
-    void MoveToY(int y) noexcept;
-    void MoveToXY(int x, int y) noexcept;
-    void MoveToXY(POINT point) noexcept;
-    /// Exchanges edges so that width and height are not negative.
-    void NormalizeRect() noexcept;
 
     /// Becomes the overlap of both rectangles; false and empty when there is none.
     BOOL IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept;
     /// Becomes the smallest rectangle around both, ignoring empty ones; false when both are empty.
     BOOL UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept;
-    /// Becomes the first rectangle without the second, where the second covers it completely in
-    /// one direction; otherwise a copy of the first. False when nothing is left.
-    BOOL SubtractRect(LPCRECT lpRectSrc1, LPCRECT lpRectSrc2) noexcept;
 
-    void operator=(const RECT& srcRect) noexcept;
     BOOL operator==(const RECT& rect) const noexcept;
     BOOL operator!=(const RECT& rect) const noexcept;
-    void operator+=(POINT point) noexcept;
-    void operator+=(SIZE size) noexcept;
-    /// Inflates by the members of the given rectangle.
-    void operator+=(LPCRECT lpRect) noexcept;
-    void operator-=(POINT point) noexcept;
-    void operator-=(SIZE size) noexcept;
-    /// Deflates by the members of the given rectangle.
-    void operator-=(LPCRECT lpRect) noexcept;
     void operator&=(const RECT& rect) noexcept;
     void operator|=(const RECT& rect) noexcept;
 
-    CRect operator+(POINT point) const noexcept;
-    CRect operator-(POINT point) const noexcept;
-    CRect operator+(LPCRECT lpRect) const noexcept;
-    CRect operator+(SIZE size) const noexcept;
-    CRect operator-(SIZE size) const noexcept;
-    CRect operator-(LPCRECT lpRect) const noexcept;
     CRect operator&(const RECT& rect2) const noexcept;
     CRect operator|(const RECT& rect2) const noexcept;
 };

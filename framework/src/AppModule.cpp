@@ -31,13 +31,6 @@ CWnd* AFXAPI AfxGetMainWnd() {
     return nullptr;
 }
 
-LPCTSTR AFXAPI AfxGetAppName() {
-    const CWinApp* const app = AfxGetApp();
-    return app == nullptr ? nullptr : app->m_pszAppName;
-}
-
-void AFXAPI AfxEnableControlContainer() {}
-
 // ---- Message boxes and prompts ------------------------------------------------------------------
 
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
@@ -45,51 +38,6 @@ int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
         return app->DoMessageBox(lpszText, nType, nIDHelp);
     }
     return ::MessageBox(CWnd::GetSafeOwner()->GetSafeHwnd(), lpszText, nullptr, nType);
-}
-
-int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
-    CString text;
-    if (!text.LoadString(nIDPrompt)) {
-        TRACE("Error: no string with the identifier %u for a message box.\n", nIDPrompt);
-    }
-    const bool ownHelp = nIDHelp != static_cast<UINT>(-1);
-    return AfxMessageBox(static_cast<LPCTSTR>(text), nType, ownHelp ? nIDHelp : nIDPrompt);
-}
-
-namespace {
-
-/// The template with its "%1" and "%2" replaced. What is put in is not searched again.
-CString Substitute(LPCTSTR format, LPCTSTR first, LPCTSTR second) {
-    CString result;
-    for (LPCTSTR next = format; *next != '\0'; ++next) {
-        if (next[0] == '%' && next[1] == '1' && first != nullptr) {
-            result += first;
-            ++next;
-        } else if (next[0] == '%' && next[1] == '2' && second != nullptr) {
-            result += second;
-            ++next;
-        } else if (::IsDBCSLeadByte(static_cast<BYTE>(next[0])) && next[1] != '\0') {
-            result += CString(next, 2);
-            ++next;
-        } else {
-            result += *next;
-        }
-    }
-    return result;
-}
-
-} // namespace
-
-void AFXAPI AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1) {
-    AfxFormatString2(rString, nIDS, lpsz1, nullptr);
-}
-
-void AFXAPI AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2) {
-    CString format;
-    if (!format.LoadString(nIDS)) {
-        TRACE("Error: no string with the identifier %u to format.\n", nIDS);
-    }
-    rString = Substitute(format, lpsz1, lpsz2);
 }
 
 BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString,
@@ -110,24 +58,4 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
     const int end = all.Find(chSep, start);
     rString = end < 0 ? all.Mid(start) : all.Mid(start, end - start);
     return TRUE;
-}
-
-// ---- Wait cursor --------------------------------------------------------------------------------
-
-CWaitCursor::CWaitCursor() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->BeginWaitCursor();
-    }
-}
-
-CWaitCursor::~CWaitCursor() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->EndWaitCursor();
-    }
-}
-
-void CWaitCursor::Restore() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->RestoreWaitCursor();
-    }
 }

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
-#include <string>
 
 namespace {
 
@@ -47,14 +46,6 @@ BOOL CArchive::IsLoading() const {
 
 BOOL CArchive::IsStoring() const {
     return m_storing;
-}
-
-BOOL CArchive::IsBufferEmpty() const {
-    return m_storing ? m_used == 0 : m_used == m_filled;
-}
-
-CFile* CArchive::GetFile() const {
-    return m_file;
 }
 
 void CArchive::fail(int cause) const {
@@ -101,11 +92,6 @@ void CArchive::Close() {
     }
     Flush();
     m_file = nullptr;
-}
-
-void CArchive::Abort() {
-    m_file = nullptr;
-    m_used = m_filled = 0;
 }
 
 void CArchive::Write(const void* lpBuf, INT nMax) {
@@ -159,54 +145,4 @@ ULONGLONG CArchive::bytesLeft() const {
     const ULONGLONG length = m_file->GetLength();
     const ULONGLONG position = m_file->GetPosition();
     return (m_filled - m_used) + (length > position ? length - position : 0);
-}
-
-// Text
-
-void CArchive::WriteString(LPCTSTR lpsz) {
-    Write(lpsz, CString::StringLength(lpsz));
-}
-
-LPTSTR CArchive::ReadString(LPTSTR lpsz, UINT nMax) {
-    requireLoading();
-    if (lpsz == nullptr || nMax == 0) {
-        AfxThrowInvalidArgException();
-    }
-    UINT length = 0;
-    bool ended = false;
-    bool complete = false;
-    while (!complete && !ended && length < nMax - 1) {
-        char ch = '\0';
-        ended = Read(&ch, 1) == 0;
-        complete = ch == '\n';
-        if (!ended && !complete) {
-            lpsz[length++] = ch;
-        }
-    }
-    if (complete && length > 0 && lpsz[length - 1] == '\r') {
-        --length;
-    }
-    lpsz[length] = '\0';
-    return ended && length == 0 ? nullptr : lpsz;
-}
-
-BOOL CArchive::ReadString(CString& rString) {
-    requireLoading();
-    std::string line;
-    bool complete = false;
-    char ch = '\0';
-    while (!complete && Read(&ch, 1) == 1) {
-        complete = ch == '\n';
-        if (!complete) {
-            line.push_back(ch);
-        }
-    }
-    if (complete && !line.empty() && line.back() == '\r') {
-        line.pop_back();
-    }
-    if (line.size() > INT_MAX) {
-        fail(CArchiveException::badIndex);
-    }
-    rString = CString(line.data(), static_cast<int>(line.size()));
-    return complete || !line.empty();
 }

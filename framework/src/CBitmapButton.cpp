@@ -38,23 +38,6 @@ BOOL CBitmapButton::LoadBitmaps(UINT nIDBitmapResource, UINT nIDBitmapResourceSe
                        MAKEINTRESOURCE(nIDBitmapResourceDisabled));
 }
 
-BOOL CBitmapButton::AutoLoad(UINT nID, CWnd* pParent) {
-    if (m_hWnd == nullptr && !SubclassDlgItem(nID, pParent)) {
-        return FALSE;
-    }
-    CString name;
-    GetWindowText(name);
-    if (name.IsEmpty() || !LoadBitmaps(name + "U")) {
-        return FALSE;
-    }
-    // Any of the other three may be missing.
-    m_bitmapSel.LoadBitmap(name + "D");
-    m_bitmapFocus.LoadBitmap(name + "F");
-    m_bitmapDisabled.LoadBitmap(name + "X");
-    SizeToContent();
-    return TRUE;
-}
-
 void CBitmapButton::SizeToContent() {
     BITMAP size = {};
     if (m_bitmap.GetBitmap(&size) != 0) {

@@ -2,8 +2,6 @@
 #include "afx/CBrush.h"
 
 #include "GdiObjectMap.h"
-#include "Handles.h"
-#include "afx/CBitmap.h"
 
 IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 
@@ -11,18 +9,6 @@ CBrush::CBrush() = default;
 
 CBrush::CBrush(COLORREF crColor) {
     if (!CreateSolidBrush(crColor)) {
-        AfxThrowResourceException();
-    }
-}
-
-CBrush::CBrush(int nIndex, COLORREF crColor) {
-    if (!CreateHatchBrush(nIndex, crColor)) {
-        AfxThrowResourceException();
-    }
-}
-
-CBrush::CBrush(CBitmap* pBitmap) {
-    if (!CreatePatternBrush(pBitmap)) {
         AfxThrowResourceException();
     }
 }
@@ -37,30 +23,6 @@ BOOL CBrush::CreateSolidBrush(COLORREF crColor) {
 
 BOOL CBrush::CreateHatchBrush(int nIndex, COLORREF crColor) {
     return Attach(::CreateHatchBrush(nIndex, crColor));
-}
-
-BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush) {
-    return Attach(::CreateBrushIndirect(lpLogBrush));
-}
-
-BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
-    return Attach(::CreatePatternBrush(afx::HandleOf<HBITMAP>(pBitmap)));
-}
-
-BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage) {
-    return Attach(::CreateDIBPatternBrush(hPackedDIB, nUsage));
-}
-
-BOOL CBrush::CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
-    return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
-}
-
-BOOL CBrush::CreateSysColorBrush(int nIndex) {
-    return Attach(::GetSysColorBrush(nIndex));
-}
-
-int CBrush::GetLogBrush(LOGBRUSH* pLogBrush) {
-    return GetObject(sizeof *pLogBrush, pLogBrush);
 }
 
 CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush) {

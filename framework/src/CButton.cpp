@@ -14,14 +14,6 @@ BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd*
     return CWnd::Create(WC_BUTTON, lpszCaption, dwStyle, rect, pParentWnd, nID);
 }
 
-UINT CButton::GetState() const {
-    return Send<UINT>(*this, BM_GETSTATE);
-}
-
-void CButton::SetState(BOOL bHighlight) {
-    Send(*this, BM_SETSTATE, bHighlight);
-}
-
 int CButton::GetCheck() const {
     return Send<int>(*this, BM_GETCHECK);
 }
@@ -38,36 +30,12 @@ void CButton::SetButtonStyle(UINT nStyle, BOOL bRedraw) {
     Send(*this, BM_SETSTYLE, nStyle, bRedraw);
 }
 
-HICON CButton::SetIcon(HICON hIcon) {
-    return Send<HICON>(*this, BM_SETIMAGE, IMAGE_ICON, hIcon);
-}
-
-HICON CButton::GetIcon() const {
-    return Send<HICON>(*this, BM_GETIMAGE, IMAGE_ICON);
-}
-
 HBITMAP CButton::SetBitmap(HBITMAP hBitmap) {
     return Send<HBITMAP>(*this, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CButton::GetBitmap() const {
     return Send<HBITMAP>(*this, BM_GETIMAGE, IMAGE_BITMAP);
-}
-
-HCURSOR CButton::SetCursor(HCURSOR hCursor) {
-    return Send<HCURSOR>(*this, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
-}
-
-HCURSOR CButton::GetCursor() {
-    return Send<HCURSOR>(*this, BM_GETIMAGE, IMAGE_CURSOR);
-}
-
-BOOL CButton::SetImageList(PBUTTON_IMAGELIST pbuttonImagelist) {
-    return Send<BOOL>(*this, BCM_SETIMAGELIST, 0, pbuttonImagelist);
-}
-
-BOOL CButton::GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) {
-    return Send<BOOL>(*this, BCM_GETIMAGELIST, 0, pbuttonImagelist);
 }
 
 void CButton::DrawItem(LPDRAWITEMSTRUCT) {}

@@ -97,21 +97,3 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     }
     return entry->pfn(this, call);
 }
-
-void CCmdTarget::BeginWaitCursor() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->DoWaitCursor(1);
-    }
-}
-
-void CCmdTarget::EndWaitCursor() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->DoWaitCursor(-1);
-    }
-}
-
-void CCmdTarget::RestoreWaitCursor() {
-    if (CWinApp* const app = AfxGetApp()) {
-        app->DoWaitCursor(0);
-    }
-}

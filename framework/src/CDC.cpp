@@ -6,7 +6,6 @@
 #include "afx/CBitmap.h"
 #include "afx/CBrush.h"
 #include "afx/CFont.h"
-#include "afx/CPalette.h"
 #include "afx/CPen.h"
 #include "afx/CRgn.h"
 #include "afx/CWnd.h"
@@ -57,10 +56,6 @@ void PASCAL CDC::DeleteTempMap() {
     ContextMap().DeleteTemp();
 }
 
-CWnd* CDC::GetWindow() const {
-    return CWnd::FromHandle(::WindowFromDC(m_hDC));
-}
-
 BOOL CDC::Attach(HDC hDC) {
     ASSERT(m_hDC == nullptr);
     if (hDC == nullptr) {
@@ -101,18 +96,6 @@ void CDC::ReleaseOutputDC() {
 
 void CDC::ReleaseAttribDC() {
     m_hAttribDC = nullptr;
-}
-
-BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
-                   const void* lpInitData) {
-    return Attach(::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput,
-                             static_cast<const DEVMODE*>(lpInitData)));
-}
-
-BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput,
-                   const void* lpInitData) {
-    return Attach(::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput,
-                             static_cast<const DEVMODE*>(lpInitData)));
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC) {
@@ -195,21 +178,4 @@ CFont* CDC::GetCurrentFont() const {
 
 CBitmap* CDC::GetCurrentBitmap() const {
     return CBitmap::FromHandle(CurrentObject<HBITMAP>(m_hDC, OBJ_BITMAP));
-}
-
-CPalette* CDC::GetCurrentPalette() const {
-    return CPalette::FromHandle(CurrentObject<HPALETTE>(m_hAttribDC, OBJ_PAL));
-}
-
-CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground) {
-    return CPalette::FromHandle(
-        ::SelectPalette(m_hDC, afx::HandleOf<HPALETTE>(pPalette), bForceBackground));
-}
-
-UINT CDC::RealizePalette() {
-    return ::RealizePalette(m_hDC);
-}
-
-void CDC::UpdateColors() {
-    ::UpdateColors(m_hDC);
 }

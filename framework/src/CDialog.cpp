@@ -5,7 +5,6 @@
 
 #include "CreationHook.h"
 #include "Handles.h"
-#include "ThreadState.h"
 #include "WndAccess.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -17,8 +16,7 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
 END_MESSAGE_MAP()
 
 CDialog::CDialog()
-    : m_templateName(nullptr), m_templateHandle(nullptr), m_template(nullptr),
-      m_dialogInit(nullptr), m_parent(nullptr), m_helpId(0) {}
+    : m_templateName(nullptr), m_template(nullptr), m_dialogInit(nullptr), m_parent(nullptr) {}
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : CDialog() {
     SetTemplate(lpszTemplateName);
@@ -34,9 +32,6 @@ void CDialog::SetTemplate(LPCTSTR templateName) {
     } else {
         m_templateNameCopy = templateName;
         m_templateName = m_templateNameCopy;
-    }
-    if (m_helpId == 0 && IS_INTRESOURCE(templateName)) {
-        m_helpId = LOWORD(reinterpret_cast<UINT_PTR>(templateName));
     }
 }
 
@@ -96,17 +91,8 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* owner, HIN
     }
     RegisterCommonControls();
     const afx::CreationHook hook(this);
-    if (::CreateDialogIndirectParam(instance, dialogTemplate, afx::WindowOf(owner),
-                                    &CDialog::DialogProc, 0) != nullptr) {
-        return TRUE;
-    }
-    if (hook.Window() == nullptr) {
-        PostNcDestroy();
-    } else if (FromHandlePermanent(hook.Window()) == this) {
-        Detach();
-        PostNcDestroy();
-    }
-    return FALSE;
+    return hook.Finish(::CreateDialogIndirectParam(instance, dialogTemplate, afx::WindowOf(owner),
+                                                   &CDialog::DialogProc, 0));
 }
 
 INT_PTR CALLBACK CDialog::DialogProc(HWND hwnd, UINT message, WPARAM, LPARAM) {
@@ -170,19 +156,9 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
     return lpDialogTemplate != nullptr;
 }
 
-BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
-    m_templateHandle = hDialogTemplate;
-    m_parent = pParentWnd;
-    return hDialogTemplate != nullptr;
-}
-
 INT_PTR CDialog::DoModal() {
     if (m_template != nullptr) {
         const LoadedTemplate loaded(m_template);
-        return RunModal(loaded.Get(), loaded.Instance());
-    }
-    if (m_templateHandle != nullptr) {
-        const LoadedTemplate loaded(m_templateHandle);
         return RunModal(loaded.Get(), loaded.Instance());
     }
     ASSERT(m_templateName != nullptr);
@@ -213,6 +189,8 @@ INT_PTR CDialog::RunModal(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance) {
     } catch (CException* e) {
         e->Delete();
         result = IDABORT;
+    } catch (const std::bad_alloc&) {
+        result = IDABORT; // the owner must not stay disabled
     }
     m_modal = false;
     EndModal(disableOwner ? ownerHandle : nullptr, top);
@@ -313,26 +291,10 @@ void CDialog::MapDialogRect(LPRECT lpRect) const {
     ::MapDialogRect(m_hWnd, lpRect);
 }
 
-void CDialog::NextDlgCtrl() const {
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, FALSE);
-}
-
-void CDialog::PrevDlgCtrl() const {
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, FALSE);
-}
-
-void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(afx::WindowOf(pWndCtrl)), TRUE);
-}
-
 void CDialog::SetDefID(UINT nID) {
     ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0);
 }
 
 DWORD CDialog::GetDefID() const {
     return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0));
-}
-
-void CDialog::SetHelpID(UINT nIDR) {
-    m_helpId = nIDR;
 }

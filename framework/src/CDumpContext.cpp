@@ -84,36 +84,10 @@ CDumpContext& CDumpContext::operator<<(ULONGLONG n) {
     return *this << text.GetString();
 }
 
-CDumpContext& CDumpContext::operator<<(HWND h) {
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HDC h) {
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HMENU h) {
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HACCEL h) {
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HFONT h) {
-    return *this << static_cast<const void*>(h);
-}
-
 int CDumpContext::GetDepth() const {
     return m_depth;
 }
 
 void CDumpContext::SetDepth(int nNewDepth) {
     m_depth = nNewDepth;
-}
-
-void CDumpContext::Flush() {
-    if (m_file != nullptr) {
-        m_file->Flush();
-    }
 }

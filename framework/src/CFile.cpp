@@ -86,8 +86,6 @@ CString absolutePath(const char* path) {
 
 CFile::CFile() : m_hFile(hFileNull) {}
 
-CFile::CFile(HANDLE hFile) : m_hFile(hFile) {}
-
 CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags) : m_hFile(hFileNull) {
     CFileException failure;
     if (!CFile::Open(lpszFileName, nOpenFlags, &failure)) {
@@ -206,10 +204,6 @@ ULONGLONG CFile::GetPosition() const {
 
 void CFile::SeekToBegin() {
     Seek(0, begin);
-}
-
-ULONGLONG CFile::SeekToEnd() {
-    return Seek(0, end);
 }
 
 ULONGLONG CFile::GetLength() const {

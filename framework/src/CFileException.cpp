@@ -4,8 +4,6 @@
 #include "MessageBuffer.h"
 #include "afx/CDumpContext.h"
 
-#include <cerrno>
-
 IMPLEMENT_DYNAMIC(CFileException, CException)
 
 namespace {
@@ -51,20 +49,6 @@ constexpr CauseOfError causesOfOsErrors[] = {
     {ERROR_DIRECTORY, CFileException::badPath},
 };
 
-constexpr CauseOfError causesOfErrno[] = {
-    {0, CFileException::none},
-    {EPERM, CFileException::accessDenied},
-    {ENOENT, CFileException::fileNotFound},
-    {EIO, CFileException::hardIO},
-    {EBADF, CFileException::invalidFile},
-    {EACCES, CFileException::accessDenied},
-    {EDEADLOCK, CFileException::sharingViolation},
-    {EEXIST, CFileException::accessDenied},
-    {ENFILE, CFileException::tooManyOpenFiles},
-    {EMFILE, CFileException::tooManyOpenFiles},
-    {ENOSPC, CFileException::diskFull},
-};
-
 template <size_t SIZE>
 int causeOf(const CauseOfError (&table)[SIZE], LONG error) {
     for (const CauseOfError& entry : table) {
@@ -106,16 +90,8 @@ int PASCAL CFileException::OsErrorToException(LONG lOsError) {
     return causeOf(causesOfOsErrors, lOsError);
 }
 
-int PASCAL CFileException::ErrnoToException(int nErrno) {
-    return causeOf(causesOfErrno, nErrno);
-}
-
 void PASCAL CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName) {
     AfxThrowFileException(OsErrorToException(lOsError), lOsError, lpszFileName);
-}
-
-void PASCAL CFileException::ThrowErrno(int nErrno, LPCTSTR lpszFileName) {
-    AfxThrowFileException(ErrnoToException(nErrno), nErrno, lpszFileName);
 }
 
 BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {

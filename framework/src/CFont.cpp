@@ -2,9 +2,6 @@
 #include "afx/CFont.h"
 
 #include "GdiObjectMap.h"
-#include "afx/CClientDC.h"
-
-#include <cstdlib>
 
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 
@@ -14,16 +11,6 @@ void SetFaceName(LOGFONT& font, LPCTSTR faceName) {
     if (faceName != nullptr) {
         lstrcpyn(font.lfFaceName, faceName, LF_FACESIZE);
     }
-}
-
-/// @param height  in tenths of a point.
-/// @return the logical height of the characters, negative as LOGFONT has it for them.
-LONG LogicalFontHeight(const CDC& dc, LONG height) {
-    CPoint size(0, MulDiv(dc.GetDeviceCaps(LOGPIXELSY), height, 720));
-    CPoint origin(0, 0);
-    dc.DPtoLP(&size);
-    dc.DPtoLP(&origin);
-    return -std::abs(size.y - origin.y);
 }
 
 } // namespace
@@ -58,21 +45,6 @@ BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientatio
 
 BOOL CFont::CreateFontIndirect(const LOGFONT* lpLogFont) {
     return Attach(::CreateFontIndirect(lpLogFont));
-}
-
-BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC) {
-    LOGFONT font = {};
-    font.lfHeight = nPointSize;
-    font.lfCharSet = DEFAULT_CHARSET;
-    SetFaceName(font, lpszFaceName);
-    return CreatePointFontIndirect(&font, pDC);
-}
-
-BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC) {
-    LOGFONT font = *lpLogFont;
-    font.lfHeight = pDC != nullptr ? LogicalFontHeight(*pDC, font.lfHeight)
-                                   : LogicalFontHeight(CClientDC(nullptr), font.lfHeight);
-    return CreateFontIndirect(&font);
 }
 
 int CFont::GetLogFont(LOGFONT* pLogFont) {

@@ -60,14 +60,6 @@ int CGdiObject::GetObject(int nCount, LPVOID lpObject) const {
     return ::GetObject(m_hObject, nCount, lpObject);
 }
 
-UINT CGdiObject::GetObjectType() const {
-    return ::GetObjectType(m_hObject);
-}
-
-BOOL CGdiObject::UnrealizeObject() {
-    return ::UnrealizeObject(m_hObject);
-}
-
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {
     if (CGdiObject* const attached = afx::GdiObjectMap().FindPermanent(hObject)) {
         return attached;
@@ -100,12 +92,4 @@ void PASCAL CGdiObject::DeleteTempMap() {
     afx::TemporaryGdiObjects<CRgn>().DeleteTemp();
     afx::TemporaryGdiObjects<CPalette>().DeleteTemp();
     afx::GdiObjectMap().DeleteTemp();
-}
-
-BOOL CGdiObject::operator==(const CGdiObject& obj) const {
-    return m_hObject == obj.m_hObject;
-}
-
-BOOL CGdiObject::operator!=(const CGdiObject& obj) const {
-    return !(*this == obj);
 }

@@ -54,22 +54,6 @@ BOOL CListCtrl::DeleteColumn(int nCol) {
     return Send<BOOL>(*this, LVM_DELETECOLUMN, nCol);
 }
 
-BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const {
-    return Send<BOOL>(*this, LVM_GETCOLUMN, nCol, pColumn);
-}
-
-BOOL CListCtrl::SetColumn(int nCol, const LVCOLUMN* pColumn) {
-    return Send<BOOL>(*this, LVM_SETCOLUMN, nCol, pColumn);
-}
-
-int CListCtrl::GetColumnWidth(int nCol) const {
-    return Send<int>(*this, LVM_GETCOLUMNWIDTH, nCol);
-}
-
-BOOL CListCtrl::SetColumnWidth(int nCol, int cx) {
-    return Send<BOOL>(*this, LVM_SETCOLUMNWIDTH, nCol, MAKELPARAM(cx, 0));
-}
-
 BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount) {
     if (iCount == -1) {
         CHeaderCtrl* const header = GetHeaderCtrl();
@@ -120,16 +104,6 @@ DWORD CListCtrl::SetExtendedStyle(DWORD dwNewStyle) {
     return Send<DWORD>(*this, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
 }
 
-CImageList* CListCtrl::GetImageList(int nImageList) const {
-    return CImageList::FromHandle(Send<HIMAGELIST>(*this, LVM_GETIMAGELIST, nImageList));
-}
-
-CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType) {
-    const HIMAGELIST handle = pImageList == nullptr ? nullptr : pImageList->m_hImageList;
-    return CImageList::FromHandle(
-        Send<HIMAGELIST>(*this, LVM_SETIMAGELIST, nImageListType, handle));
-}
-
 // ---- Layout -------------------------------------------------------------------------------------
 
 int CListCtrl::GetTopIndex() const {
@@ -144,22 +118,9 @@ BOOL CListCtrl::EnsureVisible(int nItem, BOOL bPartialOK) {
     return Send<BOOL>(*this, LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
 }
 
-BOOL CListCtrl::Scroll(CSize size) {
-    return Send<BOOL>(*this, LVM_SCROLL, size.cx, size.cy);
-}
-
 BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const {
     lpRect->left = static_cast<LONG>(nCode); // where the message expects what is asked for
     return Send<BOOL>(*this, LVM_GETITEMRECT, nItem, lpRect);
-}
-
-BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) {
-    RECT rect = {nArea, iSubItem, 0, 0};
-    const BOOL found = Send<BOOL>(*this, LVM_GETSUBITEMRECT, iItem, &rect);
-    if (found) {
-        ref = rect;
-    }
-    return found;
 }
 
 int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const {
@@ -176,16 +137,8 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const {
     return item;
 }
 
-int CListCtrl::SubItemHitTest(LPLVHITTESTINFO pInfo) {
-    return Send<int>(*this, LVM_SUBITEMHITTEST, 0, pInfo);
-}
-
 BOOL CListCtrl::RedrawItems(int nFirst, int nLast) {
     return Send<BOOL>(*this, LVM_REDRAWITEMS, nFirst, nLast);
-}
-
-BOOL CListCtrl::Update(int nItem) {
-    return Send<BOOL>(*this, LVM_UPDATE, nItem);
 }
 
 void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}

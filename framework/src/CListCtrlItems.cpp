@@ -50,10 +50,6 @@ int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem) {
     return InsertItem(LVIF_TEXT, nItem, lpszItem, 0, 0, 0, 0);
 }
 
-int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage) {
-    return InsertItem(LVIF_TEXT | LVIF_IMAGE, nItem, lpszItem, 0, 0, nImage, 0);
-}
-
 int CListCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask,
                           int nImage, LPARAM lParam) {
     LVITEM item = {};
@@ -130,52 +126,16 @@ BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask) {
     return SetItemState(nItem, &item);
 }
 
-BOOL CListCtrl::GetCheck(int nItem) const {
-    // The state image counts from 1: unchecked, checked; 0 is none.
-    return static_cast<int>(GetItemState(nItem, LVIS_STATEIMAGEMASK) >> 12) - 1;
-}
-
-BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck) {
-    return SetItemState(nItem, INDEXTOSTATEIMAGEMASK(fCheck ? 2 : 1), LVIS_STATEIMAGEMASK);
-}
-
 // ---- Searching, sorting, selection --------------------------------------------------------------
 
 int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const {
     return Send<int>(*this, LVM_FINDITEM, nStart, pFindInfo);
 }
 
-int CListCtrl::GetNextItem(int nItem, int nFlags) const {
-    return Send<int>(*this, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
-}
-
 BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
     return Send<BOOL>(*this, LVM_SORTITEMS, dwData, pfnCompare);
 }
 
-BOOL CListCtrl::SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
-    return Send<BOOL>(*this, LVM_SORTITEMSEX, dwData, pfnCompare);
-}
-
 UINT CListCtrl::GetSelectedCount() const {
     return Send<UINT>(*this, LVM_GETSELECTEDCOUNT);
-}
-
-int CListCtrl::GetSelectionMark() {
-    return Send<int>(*this, LVM_GETSELECTIONMARK);
-}
-
-int CListCtrl::SetSelectionMark(int iIndex) {
-    return Send<int>(*this, LVM_SETSELECTIONMARK, 0, iIndex);
-}
-
-POSITION CListCtrl::GetFirstSelectedItemPosition() const {
-    // One more than the index, so that item 0 differs from the end.
-    return reinterpret_cast<POSITION>(static_cast<INT_PTR>(GetNextItem(-1, LVNI_SELECTED)) + 1);
-}
-
-int CListCtrl::GetNextSelectedItem(POSITION& pos) const {
-    const int item = static_cast<int>(reinterpret_cast<INT_PTR>(pos)) - 1;
-    pos = reinterpret_cast<POSITION>(static_cast<INT_PTR>(GetNextItem(item, LVNI_SELECTED)) + 1);
-    return item;
 }

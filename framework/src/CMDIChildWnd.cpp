@@ -2,7 +2,6 @@
 #include <afxwin.h>
 
 #include "CreationHook.h"
-#include "Handles.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)
 
@@ -68,18 +67,8 @@ BOOL CMDIChildWnd::CreateInFrame(CMDIFrameWnd& frame, CREATESTRUCT cs) {
     mdi.style = static_cast<DWORD>(cs.style) & ~(WS_MAXIMIZE | WS_MINIMIZE);
     mdi.lParam = reinterpret_cast<LPARAM>(cs.lpCreateParams);
     const afx::CreationHook hook(this);
-    const auto created = reinterpret_cast<HWND>(
-        ::SendMessage(frame.m_client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&mdi)));
-    if (created != nullptr) {
-        return TRUE;
-    }
-    if (hook.Window() == nullptr) {
-        PostNcDestroy();
-    } else if (FromHandlePermanent(hook.Window()) == this) {
-        Detach();
-        PostNcDestroy();
-    }
-    return FALSE;
+    return hook.Finish(reinterpret_cast<HWND>(
+        ::SendMessage(frame.m_client, WM_MDICREATE, 0, reinterpret_cast<LPARAM>(&mdi))));
 }
 
 BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd,
@@ -118,14 +107,6 @@ CWnd* CMDIChildWnd::GetMessageBar() {
 
 void CMDIChildWnd::MDIActivate() {
     ::SendMessage(::GetParent(m_hWnd), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(m_hWnd), 0);
-}
-
-void CMDIChildWnd::MDIMaximize() {
-    ::SendMessage(::GetParent(m_hWnd), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(m_hWnd), 0);
-}
-
-void CMDIChildWnd::MDIRestore() {
-    ::SendMessage(::GetParent(m_hWnd), WM_MDIRESTORE, reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
 void CMDIChildWnd::MDIDestroy() {

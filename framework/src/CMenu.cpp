@@ -4,7 +4,6 @@
 #include "HandleMap.h"
 #include "Handles.h"
 #include "ModuleState.h"
-#include "afx/CBitmap.h"
 #include "afx/CWnd.h"
 
 IMPLEMENT_DYNAMIC(CMenu, CObject)
@@ -13,11 +12,6 @@ namespace {
 
 afx::HandleMap<HMENU, CMenu>& MenuMap() {
     return afx::ThreadHandleMap<HMENU, CMenu>(&CMenu::m_hMenu);
-}
-
-/// A bitmap as the content of a menu item, which takes the handle in place of a text.
-LPCTSTR ItemBitmap(const CBitmap* bitmap) {
-    return reinterpret_cast<LPCTSTR>(afx::HandleOf<HBITMAP>(bitmap));
 }
 
 } // namespace
@@ -30,20 +24,6 @@ CMenu::~CMenu() {
 
 CMenu::operator HMENU() const {
     return m_hMenu;
-}
-
-HMENU CMenu::GetSafeHmenu() const {
-    // A plain test of `this` could be optimized away.
-    const CMenu* const volatile menu = this;
-    return menu == nullptr ? nullptr : menu->m_hMenu;
-}
-
-BOOL CMenu::operator==(const CMenu& menu) const {
-    return m_hMenu == menu.m_hMenu;
-}
-
-BOOL CMenu::operator!=(const CMenu& menu) const {
-    return !(*this == menu);
 }
 
 // Creation
@@ -62,10 +42,6 @@ BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName) {
 
 BOOL CMenu::LoadMenu(UINT nIDResource) {
     return LoadMenu(MAKEINTRESOURCE(nIDResource));
-}
-
-BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate) {
-    return Attach(::LoadMenuIndirect(lpMenuTemplate));
 }
 
 BOOL CMenu::Attach(HMENU hMenu) {
@@ -106,28 +82,12 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem) {
     return ::AppendMenu(m_hMenu, nFlags, nIDNewItem, lpszNewItem);
 }
 
-BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp) {
-    return ::AppendMenu(m_hMenu, nFlags | MF_BITMAP, nIDNewItem, ItemBitmap(pBmp));
-}
-
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem) {
     return ::InsertMenu(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
 }
 
-BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp) {
-    return ::InsertMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, ItemBitmap(pBmp));
-}
-
-BOOL CMenu::InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos) {
-    return ::InsertMenuItem(m_hMenu, uItem, fByPos, lpMenuItemInfo);
-}
-
 BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem) {
     return ::ModifyMenu(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
-}
-
-BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp) {
-    return ::ModifyMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, ItemBitmap(pBmp));
 }
 
 BOOL CMenu::RemoveMenu(UINT nPosition, UINT nFlags) {
@@ -162,12 +122,6 @@ UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos) {
 
 UINT CMenu::GetMenuState(UINT nID, UINT nFlags) const {
     return ::GetMenuState(m_hMenu, nID, nFlags);
-}
-
-BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
-                               const CBitmap* pBmpChecked) {
-    return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, afx::HandleOf<HBITMAP>(pBmpUnchecked),
-                                afx::HandleOf<HBITMAP>(pBmpChecked));
 }
 
 BOOL CMenu::GetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos) {
@@ -212,32 +166,9 @@ CMenu* CMenu::GetSubMenu(int nPos) const {
     return FromHandle(::GetSubMenu(m_hMenu, nPos));
 }
 
-// The menu as a whole
-
-BOOL CMenu::GetMenuInfo(LPMENUINFO lpcmi) const {
-    return ::GetMenuInfo(m_hMenu, lpcmi);
-}
-
-BOOL CMenu::SetMenuInfo(LPCMENUINFO lpcmi) {
-    return ::SetMenuInfo(m_hMenu, lpcmi);
-}
-
-DWORD CMenu::GetMenuContextHelpId() const {
-    return ::GetMenuContextHelpId(m_hMenu);
-}
-
-BOOL CMenu::SetMenuContextHelpId(DWORD dwContextHelpId) {
-    return ::SetMenuContextHelpId(m_hMenu, dwContextHelpId);
-}
-
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect) {
     const HWND owner = pWnd == nullptr ? nullptr : pWnd->m_hWnd;
     return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, owner, lpRect);
-}
-
-BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm) {
-    const HWND owner = pWnd == nullptr ? nullptr : pWnd->m_hWnd;
-    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, owner, lptpm);
 }
 
 // Owner-drawn menus

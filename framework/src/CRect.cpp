@@ -20,11 +20,8 @@ static_assert(sizeof(CPoint) == sizeof(POINT) && sizeof(CRect) == sizeof(RECT));
 CRect::CRect() noexcept : tagRECT{0, 0, 0, 0} {}
 CRect::CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
 CRect::CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
-CRect::CRect(LPCRECT lpSrcRect) noexcept : tagRECT(*lpSrcRect) {}
 CRect::CRect(POINT point, SIZE size) noexcept
     : tagRECT{point.x, point.y, Add(point.x, size.cx), Add(point.y, size.cy)} {}
-CRect::CRect(POINT topLeft, POINT bottomRight) noexcept
-    : tagRECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y} {}
 
 int CRect::Width() const noexcept {
     return Subtract(right, left);
@@ -70,40 +67,12 @@ BOOL CRect::IsRectEmpty() const noexcept {
     return ::IsRectEmpty(this);
 }
 
-BOOL CRect::IsRectNull() const noexcept {
-    return left == 0 && top == 0 && right == 0 && bottom == 0;
-}
-
 BOOL CRect::PtInRect(POINT point) const noexcept {
     return ::PtInRect(this, point);
 }
 
-BOOL CRect::EqualRect(LPCRECT lpRect) const noexcept {
-    return ::EqualRect(this, lpRect);
-}
-
-void CRect::SetRect(int x1, int y1, int x2, int y2) noexcept {
-    *this = CRect(x1, y1, x2, y2);
-}
-
-void CRect::SetRectEmpty() noexcept {
-    *this = CRect();
-}
-
-void CRect::CopyRect(LPCRECT lpSrcRect) noexcept {
-    *this = *lpSrcRect;
-}
-
 void CRect::InflateRect(int x, int y) noexcept {
     InflateRect(x, y, x, y);
-}
-
-void CRect::InflateRect(SIZE size) noexcept {
-    InflateRect(size.cx, size.cy);
-}
-
-void CRect::InflateRect(LPCRECT lpRect) noexcept {
-    InflateRect(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
 }
 
 void CRect::InflateRect(int l, int t, int r, int b) noexcept {
@@ -115,10 +84,6 @@ void CRect::InflateRect(int l, int t, int r, int b) noexcept {
 
 void CRect::DeflateRect(int x, int y) noexcept {
     DeflateRect(x, y, x, y);
-}
-
-void CRect::DeflateRect(SIZE size) noexcept {
-    DeflateRect(size.cx, size.cy);
 }
 
 void CRect::DeflateRect(LPCRECT lpRect) noexcept {
@@ -139,44 +104,8 @@ void CRect::OffsetRect(int x, int y) noexcept {
     bottom = Add(bottom, y);
 }
 
-void CRect::OffsetRect(SIZE size) noexcept {
-    OffsetRect(size.cx, size.cy);
-}
-
 void CRect::OffsetRect(POINT point) noexcept {
     OffsetRect(point.x, point.y);
-}
-
-void CRect::MoveToX(int x) noexcept {
-    right = Add(x, Width());
-    left = x;
-}
-
-void CRect::MoveToY(int y) noexcept {
-    bottom = Add(y, Height());
-    top = y;
-}
-
-void CRect::MoveToXY(int x, int y) noexcept {
-    MoveToX(x);
-    MoveToY(y);
-}
-
-void CRect::MoveToXY(POINT point) noexcept {
-    MoveToXY(point.x, point.y);
-}
-
-void CRect::NormalizeRect() noexcept {
-    if (left > right) {
-        const LONG former = left;
-        left = right;
-        right = former;
-    }
-    if (top > bottom) {
-        const LONG former = top;
-        top = bottom;
-        bottom = former;
-    }
 }
 
 BOOL CRect::IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept {
@@ -187,17 +116,6 @@ BOOL CRect::UnionRect(LPCRECT lpRect1, LPCRECT lpRect2) noexcept {
     return ::UnionRect(this, lpRect1, lpRect2);
 }
 
-BOOL CRect::SubtractRect(LPCRECT lpRectSrc1, LPCRECT lpRectSrc2) noexcept {
-    return ::SubtractRect(this, lpRectSrc1, lpRectSrc2);
-}
-
-void CRect::operator=(const RECT& srcRect) noexcept {
-    left = srcRect.left;
-    top = srcRect.top;
-    right = srcRect.right;
-    bottom = srcRect.bottom;
-}
-
 BOOL CRect::operator==(const RECT& rect) const noexcept {
     return ::EqualRect(this, &rect);
 }
@@ -206,72 +124,12 @@ BOOL CRect::operator!=(const RECT& rect) const noexcept {
     return !(*this == rect);
 }
 
-void CRect::operator+=(POINT point) noexcept {
-    OffsetRect(point);
-}
-
-void CRect::operator+=(SIZE size) noexcept {
-    OffsetRect(size);
-}
-
-void CRect::operator+=(LPCRECT lpRect) noexcept {
-    InflateRect(lpRect);
-}
-
-void CRect::operator-=(POINT point) noexcept {
-    OffsetRect(-CPoint(point));
-}
-
-void CRect::operator-=(SIZE size) noexcept {
-    OffsetRect(-CSize(size));
-}
-
-void CRect::operator-=(LPCRECT lpRect) noexcept {
-    DeflateRect(lpRect);
-}
-
 void CRect::operator&=(const RECT& rect) noexcept {
     ::IntersectRect(this, this, &rect);
 }
 
 void CRect::operator|=(const RECT& rect) noexcept {
     ::UnionRect(this, this, &rect);
-}
-
-CRect CRect::operator+(POINT point) const noexcept {
-    CRect result(*this);
-    result += point;
-    return result;
-}
-
-CRect CRect::operator-(POINT point) const noexcept {
-    CRect result(*this);
-    result -= point;
-    return result;
-}
-
-CRect CRect::operator+(LPCRECT lpRect) const noexcept {
-    CRect result(*this);
-    result += lpRect;
-    return result;
-}
-
-CRect CRect::operator+(SIZE size) const noexcept {
-    CRect result(*this);
-    result += size;
-    return result;
-}
-
-CRect CRect::operator-(SIZE size) const noexcept {
-    CRect result(*this);
-    result -= size;
-    return result;
-}
-
-CRect CRect::operator-(LPCRECT lpRect) const noexcept {
-    CRect result(*this);
-    result -= lpRect;
-    return result;
 }
 
 CRect CRect::operator&(const RECT& rect2) const noexcept {

@@ -22,10 +22,6 @@ BOOL CRichEditCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UI
            CWnd::Create(RICHEDIT_CLASSA, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
-long CRichEditCtrl::GetTextLength() const {
-    return Send<long>(*this, WM_GETTEXTLENGTH);
-}
-
 void CRichEditCtrl::GetSel(long& nStartChar, long& nEndChar) const {
     CHARRANGE range = {};
     Send(*this, EM_EXGETSEL, 0, &range);

@@ -35,9 +35,3 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {
     return pObject != nullptr && pObject->IsKindOf(pClass) ? pObject : nullptr;
 }
-
-CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObject) {
-    ASSERT(pObject == nullptr || pObject->IsKindOf(pClass));
-    UNUSED(pClass);
-    return pObject;
-}

@@ -9,9 +9,6 @@ using afx::Subtract;
 CSize::CSize() noexcept : tagSIZE{0, 0} {}
 CSize::CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
 CSize::CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
-CSize::CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
-CSize::CSize(DWORD dwSize) noexcept
-    : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
 
 BOOL CSize::operator==(SIZE size) const noexcept {
     return cx == size.cx && cy == size.cy;
@@ -37,24 +34,4 @@ CSize CSize::operator+(SIZE size) const noexcept {
 
 CSize CSize::operator-(SIZE size) const noexcept {
     return CSize(Subtract(cx, size.cx), Subtract(cy, size.cy));
-}
-
-CSize CSize::operator-() const noexcept {
-    return CSize(Subtract(0, cx), Subtract(0, cy));
-}
-
-CPoint CSize::operator+(POINT point) const noexcept {
-    return CPoint(point) + *this;
-}
-
-CPoint CSize::operator-(POINT point) const noexcept {
-    return CPoint(point) - *this;
-}
-
-CRect CSize::operator+(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) + *this;
-}
-
-CRect CSize::operator-(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) - *this;
 }

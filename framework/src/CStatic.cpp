@@ -22,30 +22,6 @@ HBITMAP CStatic::GetBitmap() const {
     return Send<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP);
 }
 
-HICON CStatic::SetIcon(HICON hIcon) {
-    return Send<HICON>(*this, STM_SETIMAGE, IMAGE_ICON, hIcon);
-}
-
-HICON CStatic::GetIcon() const {
-    return Send<HICON>(*this, STM_GETIMAGE, IMAGE_ICON);
-}
-
-HCURSOR CStatic::SetCursor(HCURSOR hCursor) {
-    return Send<HCURSOR>(*this, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
-}
-
-HCURSOR CStatic::GetCursor() {
-    return Send<HCURSOR>(*this, STM_GETIMAGE, IMAGE_CURSOR);
-}
-
-HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile) {
-    return Send<HENHMETAFILE>(*this, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
-}
-
-HENHMETAFILE CStatic::GetEnhMetaFile() const {
-    return Send<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
-}
-
 void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {

@@ -203,10 +203,6 @@ CString CStatusBar::GetPaneText(int nIndex) const {
     return Has(nIndex) ? m_panes[static_cast<std::size_t>(nIndex)].text : CString();
 }
 
-void CStatusBar::GetPaneText(int nIndex, CString& rString) const {
-    rString = GetPaneText(nIndex);
-}
-
 BOOL CStatusBar::SetPaneText(int nIndex, LPCTSTR lpszNewText, BOOL bUpdate) {
     if (!Has(nIndex)) {
         return FALSE;

@@ -47,8 +47,6 @@ CString::CString(const YCHAR* pszSrc) : CString() {
     assignWide(pszSrc, LengthOf(pszSrc));
 }
 
-CString::CString(const unsigned char* pszSrc) : CString(reinterpret_cast<const char*>(pszSrc)) {}
-
 CString::CString(char ch, int nLength) : CString() {
     if (nLength > 0) {
         std::memset(GetBufferSetLength(nLength), ch, static_cast<size_t>(nLength));
@@ -93,25 +91,6 @@ CString& CString::operator=(const CString& strSrc) {
 
 CString& CString::operator=(PCXSTR pszSrc) {
     assignBytes(pszSrc, LengthOf(pszSrc));
-    return *this;
-}
-
-CString& CString::operator=(PCYSTR pszSrc) {
-    assignWide(pszSrc, LengthOf(pszSrc));
-    return *this;
-}
-
-CString& CString::operator=(const unsigned char* pszSrc) {
-    return *this = reinterpret_cast<const char*>(pszSrc);
-}
-
-CString& CString::operator=(XCHAR ch) {
-    assignBytes(&ch, 1);
-    return *this;
-}
-
-CString& CString::operator=(YCHAR ch) {
-    assignWide(&ch, 1);
     return *this;
 }
 
@@ -264,19 +243,8 @@ void CString::SetString(PCXSTR pszSrc) {
     assignBytes(pszSrc, LengthOf(pszSrc));
 }
 
-void CString::SetString(PCXSTR pszSrc, int nLength) {
-    if (nLength > 0 && pszSrc != nullptr) {
-        nLength = static_cast<int>(strnlen(pszSrc, static_cast<size_t>(nLength)));
-    }
-    assignBytes(pszSrc, nLength);
-}
-
 CString::PXSTR CString::GetBuffer(int nMinBufferLength) {
     return writable(nMinBufferLength);
-}
-
-CString::PXSTR CString::GetBuffer() {
-    return writable(0);
 }
 
 CString::PXSTR CString::GetBufferSetLength(int nLength) {
@@ -302,34 +270,6 @@ void CString::ReleaseBufferSetLength(int nNewLength) {
     setLength(nNewLength);
 }
 
-CString::PXSTR CString::LockBuffer() {
-    writable(GetLength());
-    block()->references = StringBlock::locked;
-    return m_characters;
-}
-
-void CString::UnlockBuffer() noexcept {
-    if (block()->isLocked()) {
-        block()->references = 1;
-    }
-}
-
-void CString::Preallocate(int nLength) {
-    writable(nLength);
-}
-
-void CString::FreeExtra() {
-    StringBlock* const old = block();
-    if (old->length == old->capacity || old->isLocked()) {
-        return;
-    }
-    StringBlock* const fresh = StringBlock::allocate(old->length);
-    std::memcpy(fresh->text(), old->text(), static_cast<size_t>(old->length) + 1);
-    fresh->length = old->length;
-    m_characters = fresh->text();
-    StringBlock::release(old);
-}
-
 void CString::Truncate(int nNewLength) {
     checkIndex(nNewLength, GetLength() + 1);
     if (nNewLength < GetLength()) {
@@ -342,22 +282,4 @@ void CString::Truncate(int nNewLength) {
 
 int CString::StringLength(PCXSTR psz) noexcept {
     return psz != nullptr ? static_cast<int>(strnlen(psz, INT_MAX)) : 0;
-}
-
-void CString::CopyChars(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept {
-    if (nChars > 0) {
-        std::memcpy(pchDest, pchSrc, static_cast<size_t>(nChars));
-    }
-}
-
-void CString::CopyChars(XCHAR* pchDest, size_t nDestLen, const XCHAR* pchSrc, int nChars) noexcept {
-    if (nChars > 0) {
-        std::memcpy(pchDest, pchSrc, (std::min)(nDestLen, static_cast<size_t>(nChars)));
-    }
-}
-
-void CString::CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept {
-    if (nChars > 0) {
-        std::memmove(pchDest, pchSrc, static_cast<size_t>(nChars));
-    }
 }

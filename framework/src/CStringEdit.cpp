@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstring>
 #include <mbstring.h>
 
 using afx::Bytes;
@@ -37,14 +36,6 @@ int CString::CompareNoCase(PCXSTR psz) const {
     return _mbsicmp(Bytes(m_characters), Bytes(OrEmpty(psz)));
 }
 
-int CString::Collate(PCXSTR psz) const {
-    return _mbscoll(Bytes(m_characters), Bytes(OrEmpty(psz)));
-}
-
-int CString::CollateNoCase(PCXSTR psz) const {
-    return _mbsicoll(Bytes(m_characters), Bytes(OrEmpty(psz)));
-}
-
 // Parts
 
 CString CString::Mid(int iFirst) const {
@@ -64,29 +55,6 @@ CString CString::Left(int nCount) const {
 CString CString::Right(int nCount) const {
     nCount = (std::min)((std::max)(nCount, 0), GetLength());
     return Mid(GetLength() - nCount, nCount);
-}
-
-CString CString::SpanIncluding(PCXSTR pszCharSet) const {
-    return Left(EndOfSpan(m_characters, 0, GetLength(), OrEmpty(pszCharSet), true));
-}
-
-CString CString::SpanExcluding(PCXSTR pszCharSet) const {
-    return Left(EndOfSpan(m_characters, 0, GetLength(), OrEmpty(pszCharSet), false));
-}
-
-CString CString::Tokenize(PCXSTR pszTokens, int& iStart) const {
-    if (iStart < 0) {
-        AfxThrowInvalidArgException();
-    }
-    const char* const separators = OrEmpty(pszTokens);
-    const int first = EndOfSpan(m_characters, iStart, GetLength(), separators, true);
-    if (first < GetLength()) {
-        const int end = EndOfSpan(m_characters, first, GetLength(), separators, false);
-        iStart = end + 1;
-        return Mid(first, end - first);
-    }
-    iStart = -1;
-    return CString();
 }
 
 // Changes
@@ -122,10 +90,6 @@ CString& CString::operator+=(PCXSTR pszSrc) {
     return *this;
 }
 
-CString& CString::operator+=(PCYSTR pszSrc) {
-    return *this += CString(pszSrc);
-}
-
 CString& CString::operator+=(char ch) {
     AppendChar(ch);
     return *this;
@@ -150,26 +114,8 @@ CString& CString::MakeLower() {
     return *this;
 }
 
-CString& CString::MakeReverse() {
-    const CString source(*this);
-    const int length = GetLength();
-    char* const buffer = writable(length);
-    for (int index = 0; index < length;) {
-        const int size = CharacterSize(source, index, length);
-        std::memcpy(buffer + length - index - size, source.m_characters + index,
-                    static_cast<size_t>(size));
-        index += size;
-    }
-    return *this;
-}
-
 CString& CString::TrimLeft() {
     return TrimLeft(whitespace);
-}
-
-CString& CString::TrimLeft(XCHAR chTarget) {
-    const char targets[] = {chTarget, '\0'};
-    return TrimLeft(targets);
 }
 
 CString& CString::TrimLeft(PCXSTR pszTargets) {
@@ -179,11 +125,6 @@ CString& CString::TrimLeft(PCXSTR pszTargets) {
 
 CString& CString::TrimRight() {
     return TrimRight(whitespace);
-}
-
-CString& CString::TrimRight(XCHAR chTarget) {
-    const char targets[] = {chTarget, '\0'};
-    return TrimRight(targets);
 }
 
 CString& CString::TrimRight(PCXSTR pszTargets) {
@@ -204,25 +145,6 @@ CString& CString::TrimRight(PCXSTR pszTargets) {
 
 CString& CString::Trim() {
     return TrimRight().TrimLeft();
-}
-
-CString& CString::Trim(XCHAR chTarget) {
-    return TrimRight(chTarget).TrimLeft(chTarget);
-}
-
-CString& CString::Trim(PCXSTR pszTargets) {
-    return TrimRight(pszTargets).TrimLeft(pszTargets);
-}
-
-int CString::Replace(XCHAR chOld, XCHAR chNew) {
-    int replaced = 0;
-    if (chOld != chNew) {
-        for (int found = Find(chOld); found >= 0; found = Find(chOld, found + 1)) {
-            SetAt(found, chNew);
-            ++replaced;
-        }
-    }
-    return replaced;
 }
 
 int CString::Replace(PCXSTR pszOld, PCXSTR pszNew) {
@@ -246,40 +168,6 @@ int CString::Replace(PCXSTR pszOld, PCXSTR pszNew) {
     return replaced;
 }
 
-int CString::Remove(XCHAR chRemove) {
-    const int length = GetLength();
-    if (Find(chRemove) < 0) {
-        return 0;
-    }
-    char* const buffer = writable(length);
-    int kept = 0;
-    for (int index = 0; index < length;) {
-        const int size = CharacterSize(buffer, index, length);
-        if (size == 2 || buffer[index] != chRemove) {
-            std::memmove(buffer + kept, buffer + index, static_cast<size_t>(size));
-            kept += size;
-        }
-        index += size;
-    }
-    setLength(kept);
-    return length - kept;
-}
-
-int CString::Insert(int iIndex, XCHAR ch) {
-    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
-    replaceRange(index, 0, &ch, 1);
-    return GetLength();
-}
-
-int CString::Insert(int iIndex, PCXSTR psz) {
-    const int index = (std::min)((std::max)(iIndex, 0), GetLength());
-    const int length = LengthOf(psz);
-    if (length > 0) {
-        replaceRange(index, 0, psz, length);
-    }
-    return GetLength();
-}
-
 int CString::Delete(int iIndex, int nCount) {
     const int index = (std::min)((std::max)(iIndex, 0), GetLength());
     const int count = (std::min)((std::max)(nCount, 0), GetLength() - index);
@@ -287,16 +175,6 @@ int CString::Delete(int iIndex, int nCount) {
         replaceRange(index, count, nullptr, 0);
     }
     return GetLength();
-}
-
-void CString::AnsiToOem() {
-    char* const buffer = writable(0);
-    ::CharToOemBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
-}
-
-void CString::OemToAnsi() {
-    char* const buffer = writable(0);
-    ::OemToCharBuffA(buffer, buffer, static_cast<DWORD>(GetLength()));
 }
 
 // Search
@@ -315,11 +193,6 @@ int CString::Find(PCXSTR pszSub, int iStart) const noexcept {
         return -1;
     }
     const void* const found = _mbsstr(Bytes(m_characters + iStart), Bytes(pszSub));
-    return found != nullptr ? distance(m_characters, found) : -1;
-}
-
-int CString::FindOneOf(PCXSTR pszCharSet) const noexcept {
-    const void* const found = _mbspbrk(Bytes(m_characters), Bytes(OrEmpty(pszCharSet)));
     return found != nullptr ? distance(m_characters, found) : -1;
 }
 

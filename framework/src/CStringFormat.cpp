@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Formatting, string resources and the environment.
+// Formatting and string resources.
 #include "afx/CString.h"
 
 #include "ModuleState.h"
@@ -7,7 +7,6 @@
 
 #include <climits>
 #include <cstdio>
-#include <memory>
 
 namespace {
 
@@ -27,18 +26,6 @@ CString formatted(const char* format, va_list args) {
     std::vsnprintf(text.GetBufferSetLength(length), static_cast<size_t>(length) + 1, format, args);
     return text;
 }
-
-CString loadFormat(UINT id) {
-    CString format;
-    if (!format.LoadString(id)) {
-        AfxThrowResourceException();
-    }
-    return format;
-}
-
-struct LocalFreer {
-    void operator()(char* memory) const noexcept { ::LocalFree(memory); }
-};
 
 /// Strings are stored in tables of sixteen; each string is its length and that many UTF-16 units.
 constexpr UINT stringsPerTable = 16;
@@ -90,14 +77,6 @@ void AFX_CDECL CString::Format(PCXSTR pszFormat, ...) {
     va_end(args);
 }
 
-void AFX_CDECL CString::Format(UINT nFormatID, ...) {
-    const CString format = loadFormat(nFormatID);
-    va_list args;
-    va_start(args, nFormatID);
-    FormatV(format, args);
-    va_end(args);
-}
-
 void CString::FormatV(PCXSTR pszFormat, va_list args) {
     *this = formatted(pszFormat, args);
 }
@@ -107,41 +86,6 @@ void AFX_CDECL CString::AppendFormat(PCXSTR pszFormat, ...) {
     va_start(args, pszFormat);
     Append(formatted(pszFormat, args));
     va_end(args);
-}
-
-void AFX_CDECL CString::AppendFormat(UINT nFormatID, ...) {
-    const CString format = loadFormat(nFormatID);
-    va_list args;
-    va_start(args, nFormatID);
-    Append(formatted(format, args));
-    va_end(args);
-}
-
-void AFX_CDECL CString::FormatMessage(PCXSTR pszFormat, ...) {
-    va_list args;
-    va_start(args, pszFormat);
-    FormatMessageV(pszFormat, &args);
-    va_end(args);
-}
-
-void AFX_CDECL CString::FormatMessage(UINT nFormatID, ...) {
-    const CString format = loadFormat(nFormatID);
-    va_list args;
-    va_start(args, nFormatID);
-    FormatMessageV(format, &args);
-    va_end(args);
-}
-
-void CString::FormatMessageV(PCXSTR pszFormat, va_list* pArgList) {
-    char* message = nullptr;
-    const DWORD length =
-        ::FormatMessageA(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, pszFormat, 0,
-                         0, reinterpret_cast<char*>(&message), 0, pArgList);
-    const std::unique_ptr<char, LocalFreer> owner(message);
-    if (length == 0 && ::GetLastError() == ERROR_NOT_ENOUGH_MEMORY) {
-        AfxThrowMemoryException();
-    }
-    assignBytes(message, static_cast<int>(length));
 }
 
 BOOL CString::LoadString(UINT nID) {
@@ -154,12 +98,6 @@ BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
     return assignFromTable(*this, hInstance, table, nID);
 }
 
-BOOL CString::LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID) {
-    const HRSRC table = ::FindResourceExA(hInstance, reinterpret_cast<char*>(RT_STRING),
-                                          tableName(nID), wLanguageID);
-    return assignFromTable(*this, hInstance, table, nID);
-}
-
 BOOL CString::loadIfResource(const char* text) {
     if (text == nullptr || !IS_INTRESOURCE(text)) {
         return FALSE;
@@ -168,22 +106,4 @@ BOOL CString::loadIfResource(const char* text) {
         Empty(); // an identifier without a string is an empty string, never an address
     }
     return TRUE;
-}
-
-BOOL CString::GetEnvironmentVariable(PCXSTR pszVar) {
-    Empty();
-    // The variable may grow between the two calls, so ask until the buffer was large enough.
-    DWORD size = ::GetEnvironmentVariableA(pszVar, nullptr, 0);
-    while (size > 0) {
-        CString value;
-        char* const buffer = value.GetBuffer(static_cast<int>(size));
-        const DWORD length = ::GetEnvironmentVariableA(pszVar, buffer, size + 1);
-        if (length <= size) {
-            value.ReleaseBuffer(static_cast<int>(length));
-            *this = value;
-            return TRUE;
-        }
-        size = length;
-    }
-    return FALSE;
 }

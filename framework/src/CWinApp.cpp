@@ -2,7 +2,6 @@
 #include <afxwin.h>
 
 #include <cstdlib>
-#include <cstring>
 
 #include "ModuleState.h"
 #include "ThreadState.h"
@@ -51,12 +50,9 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
     : m_hInstance(afx::InstanceHandle()), m_lpCmdLine(nullptr), m_nCmdShow(SW_SHOWNORMAL),
       m_pszAppName(lpszAppName == nullptr ? nullptr : Duplicate(lpszAppName)),
       m_pszExeName(nullptr), m_pszHelpFilePath(nullptr), m_pszProfileName(nullptr),
-      m_pszRegistryKey(nullptr), m_waitCursors(0), m_cursorBefore(nullptr),
-      m_outerApp(theApplication), m_outerThread(AfxGetThread()) {
+      m_pszRegistryKey(nullptr), m_outerApp(theApplication), m_outerThread(AfxGetThread()) {
     theApplication = this;
     afx::CurrentThread().thread = this;
-    m_hThread = ::GetCurrentThread();
-    m_nThreadID = ::GetCurrentThreadId();
     InitNames();
 }
 
@@ -133,14 +129,6 @@ void CWinApp::OnAppExit() {
     }
 }
 
-void CWinApp::HideApplication() {
-    if (m_pMainWnd != nullptr) {
-        m_pMainWnd->ShowWindow(SW_HIDE);
-        m_pMainWnd->ShowOwnedPopups(FALSE);
-        m_pMainWnd->SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
-    }
-}
-
 int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
     HWND top = nullptr;
     const HWND owner = CWnd::GetSafeOwner(nullptr, &top)->GetSafeHwnd();
@@ -151,36 +139,10 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
     return answer;
 }
 
-void CWinApp::DoWaitCursor(int nCode) {
-    ASSERT(nCode >= -1 && nCode <= 1);
-    m_waitCursors += nCode;
-    if (m_waitCursors <= 0) {
-        m_waitCursors = 0;
-        ::SetCursor(m_cursorBefore);
-        return;
-    }
-    const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-    if (nCode > 0 && m_waitCursors == 1) {
-        m_cursorBefore = before;
-    }
-}
-
 // ---- Cursors and icons --------------------------------------------------------------------------
-
-HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const {
-    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
-}
-
-HCURSOR CWinApp::LoadCursor(UINT nIDResource) const {
-    return LoadCursor(MAKEINTRESOURCE(nIDResource));
-}
 
 HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const {
     return ::LoadCursor(nullptr, lpszCursorName);
-}
-
-HCURSOR CWinApp::LoadOEMCursor(UINT nIDCursor) const {
-    return ::LoadCursor(nullptr, MAKEINTRESOURCE(nIDCursor));
 }
 
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
@@ -189,72 +151,4 @@ HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const {
 
 HICON CWinApp::LoadIcon(UINT nIDResource) const {
     return LoadIcon(MAKEINTRESOURCE(nIDResource));
-}
-
-HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const {
-    return ::LoadIcon(nullptr, lpszIconName);
-}
-
-HICON CWinApp::LoadOEMIcon(UINT nIDIcon) const {
-    return ::LoadIcon(nullptr, MAKEINTRESOURCE(nIDIcon));
-}
-
-// ---- Command line -------------------------------------------------------------------------------
-
-void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo) {
-    for (int i = 1; i < __argc; ++i) {
-        LPCTSTR parameter = __argv[i];
-        const bool isFlag = parameter[0] == '-' || parameter[0] == '/';
-        rCmdInfo.ParseParam(isFlag ? parameter + 1 : parameter, isFlag, i + 1 == __argc);
-    }
-}
-
-CCommandLineInfo::CCommandLineInfo()
-    : m_bShowSplash(TRUE), m_bRunEmbedded(FALSE), m_bRunAutomated(FALSE), m_nShellCommand(FileNew) {
-}
-
-void CCommandLineInfo::ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast) {
-    if (bFlag) {
-        ParseFlag(pszParam);
-    } else {
-        ParseName(pszParam);
-    }
-    if (bLast) {
-        if (m_nShellCommand == FileNew && !m_strFileName.IsEmpty()) {
-            m_nShellCommand = FileOpen;
-        }
-        m_bShowSplash = !m_bRunEmbedded && !m_bRunAutomated;
-    }
-}
-
-void CCommandLineInfo::ParseFlag(const TCHAR* flag) {
-    const auto is = [flag](const char* name) { return ::_stricmp(flag, name) == 0; };
-    if (is("pt")) {
-        m_nShellCommand = FilePrintTo;
-    } else if (is("p")) {
-        m_nShellCommand = FilePrint;
-    } else if (is("dde")) {
-        m_nShellCommand = FileDDE;
-    } else if (is("Register") || is("RegServer")) {
-        m_nShellCommand = AppRegister;
-    } else if (is("Unregister") || is("UnregServer")) {
-        m_nShellCommand = AppUnregister;
-    } else if (is("Embedding")) {
-        m_bRunEmbedded = TRUE;
-        m_bShowSplash = FALSE;
-    } else if (is("Automation")) {
-        m_bRunAutomated = TRUE;
-        m_bShowSplash = FALSE;
-    }
-}
-
-void CCommandLineInfo::ParseName(const TCHAR* name) {
-    CString* const places[] = {&m_strFileName, &m_strPrinterName, &m_strDriverName, &m_strPortName};
-    const int count = m_nShellCommand == FilePrintTo ? 4 : 1;
-    for (int i = 0; i < count; ++i) {
-        if (places[i]->IsEmpty()) {
-            *places[i] = name;
-            return;
-        }
-    }
 }

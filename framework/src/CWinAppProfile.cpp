@@ -2,9 +2,7 @@
 // CWinApp: settings in the registry or in an INI file.
 #include <afxwin.h>
 
-#include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -82,37 +80,6 @@ UINT ParseNumber(const CString& text) {
                  : static_cast<UINT>(std::strtol(text, nullptr, 10));
 }
 
-/// Bytes in an INI file are two letters each, from 'A', the low four bits first.
-CString EncodeBytes(const BYTE* data, UINT size) {
-    CString text;
-    for (UINT i = 0; i < size; ++i) {
-        text += static_cast<char>('A' + (data[i] & 0x0F));
-        text += static_cast<char>('A' + (data[i] >> 4));
-    }
-    return text;
-}
-
-bool IsCode(char letter) {
-    return letter >= 'A' && letter < 'A' + 16;
-}
-
-/// False for a text that is no code.
-bool DecodeBytes(const CString& text, std::vector<BYTE>& data) {
-    const int length = text.GetLength();
-    if (length % 2 != 0) {
-        return false;
-    }
-    for (int i = 0; i < length; i += 2) {
-        const char low = text[i];
-        const char high = text[i + 1];
-        if (!IsCode(low) || !IsCode(high)) {
-            return false;
-        }
-        data.push_back(static_cast<BYTE>((low - 'A') | ((high - 'A') << 4)));
-    }
-    return true;
-}
-
 void Replace(LPCTSTR& name, LPCTSTR text) {
     std::free(const_cast<LPTSTR>(name));
     name = ::_strdup(text);
@@ -126,13 +93,6 @@ void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey) {
     ASSERT(lpszRegistryKey != nullptr);
     Replace(m_pszRegistryKey, lpszRegistryKey);
     Replace(m_pszProfileName, m_pszAppName);
-}
-
-void CWinApp::SetRegistryKey(UINT nIDRegistryKey) {
-    CString name;
-    if (name.LoadString(nIDRegistryKey)) {
-        SetRegistryKey(name);
-    }
 }
 
 HKEY CWinApp::OpenAppKey() {
@@ -217,36 +177,3 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
 }
 
 // ---- Bytes --------------------------------------------------------------------------------------
-
-BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData,
-                               UINT* pBytes) {
-    ASSERT(ppData != nullptr && pBytes != nullptr);
-    *ppData = nullptr;
-    *pBytes = 0;
-    std::vector<BYTE> data;
-    if (m_pszRegistryKey == nullptr) {
-        CString text;
-        if (!ReadIni(m_pszProfileName, lpszSection, lpszEntry, text) || !DecodeBytes(text, data)) {
-            return FALSE;
-        }
-    } else {
-        const RegistryKey section(OpenSectionKey(lpszSection));
-        if (!section || !ReadValue(section, lpszEntry, REG_BINARY, data)) {
-            return FALSE;
-        }
-    }
-    auto block = std::make_unique<BYTE[]>(data.size());
-    std::copy(data.begin(), data.end(), block.get());
-    *pBytes = static_cast<UINT>(data.size());
-    *ppData = block.release();
-    return TRUE;
-}
-
-BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData,
-                                 UINT nBytes) {
-    if (m_pszRegistryKey == nullptr) {
-        return WriteProfileString(lpszSection, lpszEntry, EncodeBytes(pData, nBytes));
-    }
-    const RegistryKey section(OpenSectionKey(lpszSection));
-    return section && WriteValue(section, lpszEntry, REG_BINARY, pData, nBytes);
-}

@@ -2,8 +2,6 @@
 #include <afxcmn.h>
 
 #include <algorithm>
-#include <memory>
-#include <process.h>
 
 #include "Handles.h"
 #include "ThreadState.h"
@@ -15,14 +13,9 @@ IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
 END_MESSAGE_MAP()
 
-CWinThread::CWinThread()
-    : m_pMainWnd(nullptr), m_pActiveWnd(nullptr), m_bAutoDelete(TRUE), m_hThread(nullptr),
-      m_nThreadID(0), m_threadProc(nullptr), m_threadParam(nullptr), m_lastMouseMessage(0) {}
+CWinThread::CWinThread() : m_pMainWnd(nullptr), m_pActiveWnd(nullptr), m_lastMouseMessage(0) {}
 
 CWinThread::~CWinThread() {
-    if (m_hThread != nullptr) {
-        ::CloseHandle(m_hThread);
-    }
     if (afx::CurrentThread().thread == this) {
         afx::CurrentThread().thread = nullptr;
     }
@@ -33,111 +26,6 @@ CWinThread* AfxGetThread() {
 }
 
 // ---- Starting and ending ------------------------------------------------------------------------
-
-BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize,
-                              LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
-    ASSERT(m_hThread == nullptr);
-    // Suspended until its handle and number are stored: the thread may read them.
-    unsigned id = 0;
-    const uintptr_t handle = ::_beginthreadex(lpSecurityAttrs, nStackSize, &CWinThread::ThreadMain,
-                                              this, dwCreateFlags | CREATE_SUSPENDED, &id);
-    if (handle == 0) {
-        return FALSE;
-    }
-    m_hThread = reinterpret_cast<HANDLE>(handle);
-    m_nThreadID = id;
-    if ((dwCreateFlags & CREATE_SUSPENDED) == 0) {
-        ResumeThread();
-    }
-    return TRUE;
-}
-
-unsigned __stdcall CWinThread::ThreadMain(void* thread) {
-    auto* const self = static_cast<CWinThread*>(thread);
-    afx::CurrentThread().thread = self;
-    const int exitCode = self->RunThread();
-    AfxEndThread(static_cast<UINT>(exitCode));
-    return static_cast<unsigned>(exitCode);
-}
-
-int CWinThread::RunThread() {
-    if (m_threadProc != nullptr) {
-        return static_cast<int>(m_threadProc(m_threadParam));
-    }
-    return InitInstance() ? Run() : ExitInstance();
-}
-
-void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete) {
-    CWinThread* const thread = AfxGetThread();
-    if (thread != nullptr) {
-        afx::CurrentThread().thread = nullptr;
-        if (bDelete && thread->m_bAutoDelete && thread != AfxGetApp()) {
-            const std::unique_ptr<CWinThread> ended(thread);
-        }
-    }
-    ::_endthreadex(nExitCode);
-}
-
-namespace {
-
-/// Starts the thread suspended, sets its priority and lets it go if it is to go.
-CWinThread* Start(std::unique_ptr<CWinThread> thread, int priority, UINT stackSize, DWORD flags,
-                  LPSECURITY_ATTRIBUTES security) {
-    if (thread == nullptr || !thread->CreateThread(flags | CREATE_SUSPENDED, stackSize, security)) {
-        return nullptr;
-    }
-    // From here on the thread deletes the object.
-    CWinThread* const started = thread.release();
-    started->SetThreadPriority(priority);
-    if ((flags & CREATE_SUSPENDED) == 0) {
-        started->ResumeThread();
-    }
-    return started;
-}
-
-} // namespace
-
-CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority,
-                           UINT nStackSize, DWORD dwCreateFlags,
-                           LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
-    auto thread = std::make_unique<CWinThread>();
-    thread->m_threadProc = pfnThreadProc;
-    thread->m_threadParam = pParam;
-    thread->m_pMainWnd = AfxGetMainWnd();
-    return Start(std::move(thread), nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
-}
-
-CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UINT nStackSize,
-                           DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs) {
-    std::unique_ptr<CObject> object(pThreadClass->CreateObject());
-    auto* const thread = DYNAMIC_DOWNCAST(CWinThread, object.get());
-    if (thread == nullptr) {
-        return nullptr;
-    }
-    UNUSED_ALWAYS(object.release());
-    return Start(std::unique_ptr<CWinThread>(thread), nPriority, nStackSize, dwCreateFlags,
-                 lpSecurityAttrs);
-}
-
-int CWinThread::GetThreadPriority() {
-    return ::GetThreadPriority(m_hThread);
-}
-
-BOOL CWinThread::SetThreadPriority(int nPriority) {
-    return ::SetThreadPriority(m_hThread, nPriority);
-}
-
-DWORD CWinThread::SuspendThread() {
-    return ::SuspendThread(m_hThread);
-}
-
-DWORD CWinThread::ResumeThread() {
-    return ::ResumeThread(m_hThread);
-}
-
-BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
-}
 
 BOOL CWinThread::InitInstance() {
     return FALSE;

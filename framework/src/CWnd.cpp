@@ -10,7 +10,6 @@
 #include "Handles.h"
 #include "ModuleState.h"
 #include "ThreadState.h"
-#include "WndAccess.h"
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 
@@ -49,8 +48,8 @@ CHeaderCtrl* afx::HeaderFromHandle(HWND hWnd) {
 }
 
 CWnd::CWnd()
-    : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_toolTips(false),
-      m_modal(false), m_modalResult(0) {}
+    : m_hWnd(nullptr), m_superProc(nullptr), m_ownerHandle(nullptr), m_modal(false),
+      m_modalResult(0) {}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {
@@ -174,18 +173,7 @@ BOOL CWnd::CreateHandle(CREATESTRUCT& cs) {
     const HWND created = ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName,
                                           static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy,
                                           cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
-    if (created != nullptr) {
-        return TRUE;
-    }
-    // A window that got as far as its first message has ended with WM_NCDESTROY. The object may be
-    // gone by then: the map knows whether it is still there.
-    if (hook.Window() == nullptr) {
-        PostNcDestroy();
-    } else if (FromHandlePermanent(hook.Window()) == this) {
-        Detach();
-        PostNcDestroy();
-    }
-    return FALSE;
+    return hook.Finish(created);
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs) {

@@ -44,22 +44,6 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const {
     return FromHandle(FindDescendant(m_hWnd, nID, bOnlyPerm != FALSE));
 }
 
-CWnd* CWnd::GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious) const {
-    return FromHandle(::GetNextDlgGroupItem(m_hWnd, afx::WindowOf(pWndCtl), bPrevious));
-}
-
-CWnd* CWnd::GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious) const {
-    return FromHandle(::GetNextDlgTabItem(m_hWnd, afx::WindowOf(pWndCtl), bPrevious));
-}
-
-UINT CWnd::GetDlgItemInt(int nID, BOOL* lpTrans, BOOL bSigned) const {
-    return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
-}
-
-void CWnd::SetDlgItemInt(int nID, UINT nValue, BOOL bSigned) {
-    ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned);
-}
-
 int CWnd::GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const {
     return static_cast<int>(::GetDlgItemText(m_hWnd, nID, lpStr, nMaxCount));
 }
@@ -80,21 +64,8 @@ void CWnd::CheckDlgButton(int nIDButton, UINT nCheck) {
     ::CheckDlgButton(m_hWnd, nIDButton, nCheck);
 }
 
-void CWnd::CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton) {
-    ::CheckRadioButton(m_hWnd, nIDFirstButton, nIDLastButton, nIDCheckButton);
-}
-
 UINT CWnd::IsDlgButtonChecked(int nIDButton) const {
     return ::IsDlgButtonChecked(m_hWnd, nIDButton);
-}
-
-int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) {
-    for (int id = nIDFirstButton; id <= nIDLastButton; ++id) {
-        if (::IsDlgButtonChecked(m_hWnd, id) != BST_UNCHECKED) {
-            return id;
-        }
-    }
-    return 0;
 }
 
 LRESULT CWnd::SendDlgItemMessage(int nID, UINT message, WPARAM wParam, LPARAM lParam) {

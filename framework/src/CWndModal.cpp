@@ -111,10 +111,7 @@ void CWnd::EndModalState() {
     ::EnableWindow(m_hWnd, TRUE);
 }
 
-BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
-    if (m_toolTips) {
-        FilterToolTipMessage(pMsg);
-    }
+BOOL CWnd::PreTranslateMessage(MSG*) {
     return FALSE;
 }
 

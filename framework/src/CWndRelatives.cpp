@@ -3,9 +3,8 @@
 #include <afxwin.h>
 
 #include "Handles.h"
-#include "WndAccess.h"
 
-// ---- Focus, capture, activation, caret, clipboard -----------------------------------------------
+// ---- Focus, capture, activation, clipboard ------------------------------------------------------
 
 CWnd* PASCAL CWnd::GetFocus() {
     return FromHandle(::GetFocus());
@@ -23,14 +22,6 @@ CWnd* CWnd::SetCapture() {
     return FromHandle(::SetCapture(m_hWnd));
 }
 
-CWnd* PASCAL CWnd::GetActiveWindow() {
-    return FromHandle(::GetActiveWindow());
-}
-
-CWnd* CWnd::SetActiveWindow() {
-    return FromHandle(::SetActiveWindow(m_hWnd));
-}
-
 CWnd* PASCAL CWnd::GetForegroundWindow() {
     return FromHandle(::GetForegroundWindow());
 }
@@ -39,52 +30,8 @@ BOOL CWnd::SetForegroundWindow() {
     return ::SetForegroundWindow(m_hWnd);
 }
 
-void CWnd::CreateCaret(CBitmap* pBitmap) {
-    ::CreateCaret(m_hWnd, pBitmap == nullptr ? nullptr : static_cast<HBITMAP>(pBitmap->m_hObject),
-                  0, 0);
-}
-
-void CWnd::CreateSolidCaret(int nWidth, int nHeight) {
-    ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight);
-}
-
-void CWnd::CreateGrayCaret(int nWidth, int nHeight) {
-    // The system's name for the grey caret is the bitmap handle 1.
-    ::CreateCaret(m_hWnd, reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(1)), nWidth, nHeight);
-}
-
-CPoint PASCAL CWnd::GetCaretPos() {
-    CPoint point;
-    ::GetCaretPos(&point);
-    return point;
-}
-
-void PASCAL CWnd::SetCaretPos(POINT point) {
-    ::SetCaretPos(point.x, point.y);
-}
-
-void CWnd::ShowCaret() {
-    ::ShowCaret(m_hWnd);
-}
-
-void CWnd::HideCaret() {
-    ::HideCaret(m_hWnd);
-}
-
 BOOL CWnd::OpenClipboard() {
     return ::OpenClipboard(m_hWnd);
-}
-
-CWnd* PASCAL CWnd::GetClipboardOwner() {
-    return FromHandle(::GetClipboardOwner());
-}
-
-CWnd* PASCAL CWnd::GetOpenClipboardWindow() {
-    return FromHandle(::GetOpenClipboardWindow());
-}
-
-BOOL CWnd::DragDetect(POINT pt) const {
-    return ::DragDetect(m_hWnd, pt);
 }
 
 // ---- Relatives ----------------------------------------------------------------------------------
@@ -95,10 +42,6 @@ CWnd* CWnd::GetParent() const {
 
 CWnd* CWnd::SetParent(CWnd* pWndNewParent) {
     return FromHandle(::SetParent(m_hWnd, afx::WindowOf(pWndNewParent)));
-}
-
-CWnd* CWnd::GetAncestor(UINT gaFlags) const {
-    return FromHandle(::GetAncestor(m_hWnd, gaFlags));
 }
 
 CWnd* CWnd::GetOwner() const {
@@ -126,14 +69,6 @@ HWND OwnerOf(HWND hWnd) {
 constexpr int MaxOwners = 256;
 
 } // namespace
-
-CWnd* CWnd::GetParentOwner() const {
-    HWND hWnd = m_hWnd == nullptr ? nullptr : OwnerOf(m_hWnd);
-    for (int i = 0; hWnd != nullptr && IsChildStyle(hWnd) && i < MaxOwners; ++i) {
-        hWnd = OwnerOf(hWnd);
-    }
-    return FromHandle(hWnd);
-}
 
 CWnd* CWnd::GetTopLevelParent() const {
     if (m_hWnd == nullptr) {
@@ -172,11 +107,6 @@ CFrameWnd* CWnd::GetParentFrame() const {
     return nullptr;
 }
 
-CFrameWnd* CWnd::GetTopLevelFrame() const {
-    CWnd* const top = GetTopLevelParent();
-    return top == nullptr ? nullptr : top->AsFrameWnd();
-}
-
 CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
     const CWnd* const start = pParent != nullptr ? pParent : AfxGetMainWnd();
     HWND owner = afx::WindowOf(start);
@@ -213,39 +143,6 @@ CWnd* CWnd::GetNextWindow(UINT nFlag) const {
     return FromHandle(::GetWindow(m_hWnd, nFlag));
 }
 
-CWnd* CWnd::GetTopWindow() const {
-    return FromHandle(::GetTopWindow(m_hWnd));
-}
-
-CWnd* CWnd::GetLastActivePopup() const {
-    return FromHandle(::GetLastActivePopup(m_hWnd));
-}
-
-CWnd* CWnd::ChildWindowFromPoint(POINT point) const {
-    return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
-}
-
-CWnd* CWnd::ChildWindowFromPoint(POINT point, UINT nFlags) const {
-    return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, nFlags));
-}
-
-CWnd* PASCAL CWnd::WindowFromPoint(POINT point) {
-    return FromHandle(::WindowFromPoint(point));
-}
-
-CWnd* PASCAL CWnd::FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
-    return FromHandle(::FindWindow(lpszClassName, lpszWindowName));
-}
-
-CWnd* PASCAL CWnd::FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass,
-                                LPCTSTR lpszWindow) {
-    return FromHandle(::FindWindowEx(hwndParent, hwndChildAfter, lpszClass, lpszWindow));
-}
-
-CWnd* PASCAL CWnd::GetDesktopWindow() {
-    return FromHandle(::GetDesktopWindow());
-}
-
 // ---- Messages -----------------------------------------------------------------------------------
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -254,10 +151,6 @@ LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return ::PostMessage(m_hWnd, message, wParam, lParam);
-}
-
-BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
 }
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
@@ -273,13 +166,4 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
             FromHandle(hWnd)->SendMessageToDescendants(message, wParam, lParam, bDeep, bOnlyPerm);
         }
     }
-}
-
-int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
-    return ::MessageBox(m_hWnd, lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(),
-                        nType);
-}
-
-void CWnd::NotifyWinEvent(DWORD event, LONG idObjectType, LONG idObject) {
-    ::NotifyWinEvent(event, m_hWnd, idObjectType, idObject);
 }

@@ -38,10 +38,6 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
     return ChangeStyle(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
 }
 
-BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags) {
-    return ChangeStyle(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
-}
-
 BOOL CWnd::EnableWindow(BOOL bEnable) {
     return ::EnableWindow(m_hWnd, bEnable);
 }
@@ -66,73 +62,16 @@ BOOL CWnd::ShowWindow(int nCmdShow) {
     return ::ShowWindow(m_hWnd, nCmdShow);
 }
 
-void CWnd::ShowOwnedPopups(BOOL bShow) {
-    ::ShowOwnedPopups(m_hWnd, bShow);
-}
-
-void CWnd::CloseWindow() {
-    ::CloseWindow(m_hWnd);
-}
-
-BOOL CWnd::GetWindowInfo(PWINDOWINFO pwi) const {
-    return ::GetWindowInfo(m_hWnd, pwi);
-}
-
-BOOL CWnd::GetTitleBarInfo(PTITLEBARINFO pti) const {
-    return ::GetTitleBarInfo(m_hWnd, pti);
-}
-
-BOOL CWnd::SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags) {
-    return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
-}
-
-BOOL CWnd::GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const {
-    return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
-}
-
-BOOL CWnd::AnimateWindow(DWORD dwTime, DWORD dwFlags) {
-    return ::AnimateWindow(m_hWnd, dwTime, dwFlags);
-}
-
-BOOL CWnd::FlashWindow(BOOL bInvert) {
-    return ::FlashWindow(m_hWnd, bInvert);
-}
-
-BOOL CWnd::FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout) {
-    FLASHWINFO info = {sizeof(info), m_hWnd, dwFlags, uCount, dwTimeout};
-    return ::FlashWindowEx(&info);
-}
-
-DWORD CWnd::GetWindowContextHelpId() const {
-    return ::GetWindowContextHelpId(m_hWnd);
-}
-
-BOOL CWnd::SetWindowContextHelpId(DWORD dwContextHelpId) {
-    return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
-}
-
-void CWnd::DragAcceptFiles(BOOL bAccept) {
-    ::DragAcceptFiles(m_hWnd, bAccept);
-}
-
 // ---- Text, font, icon, identifier ---------------------------------------------------------------
 
 void CWnd::SetWindowText(LPCTSTR lpszString) {
     ::SetWindowText(m_hWnd, lpszString);
 }
 
-int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
-    return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
-}
-
 void CWnd::GetWindowText(CString& rString) const {
     const int length = ::GetWindowTextLength(m_hWnd);
     ::GetWindowText(m_hWnd, rString.GetBufferSetLength(length), length + 1);
     rString.ReleaseBuffer();
-}
-
-int CWnd::GetWindowTextLength() const {
-    return ::GetWindowTextLength(m_hWnd);
 }
 
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
@@ -143,16 +82,6 @@ void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
 
 CFont* CWnd::GetFont() const {
     return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0)));
-}
-
-HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon) {
-    return reinterpret_cast<HICON>(::SendMessage(
-        m_hWnd, WM_SETICON, bBigIcon ? ICON_BIG : ICON_SMALL, reinterpret_cast<LPARAM>(hIcon)));
-}
-
-HICON CWnd::GetIcon(BOOL bBigIcon) const {
-    return reinterpret_cast<HICON>(
-        ::SendMessage(m_hWnd, WM_GETICON, bBigIcon ? ICON_BIG : ICON_SMALL, 0));
 }
 
 int CWnd::GetDlgCtrlID() const {
@@ -186,31 +115,8 @@ BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int c
     return ::SetWindowPos(m_hWnd, afx::WindowOf(pWndInsertAfter), x, y, cx, cy, nFlags);
 }
 
-BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const {
-    lpwndpl->length = sizeof(WINDOWPLACEMENT);
-    return ::GetWindowPlacement(m_hWnd, lpwndpl);
-}
-
-BOOL CWnd::SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl) {
-    WINDOWPLACEMENT placement = *lpwndpl;
-    placement.length = sizeof(placement);
-    return ::SetWindowPlacement(m_hWnd, &placement);
-}
-
-int CWnd::SetWindowRgn(HRGN hRgn, BOOL bRedraw) {
-    return ::SetWindowRgn(m_hWnd, hRgn, bRedraw);
-}
-
-int CWnd::GetWindowRgn(HRGN hRgn) const {
-    return ::GetWindowRgn(m_hWnd, hRgn);
-}
-
 void CWnd::BringWindowToTop() {
     ::BringWindowToTop(m_hWnd);
-}
-
-UINT CWnd::ArrangeIconicWindows() {
-    return ::ArrangeIconicWindows(m_hWnd);
 }
 
 namespace {
@@ -290,10 +196,6 @@ void CWnd::ScreenToClient(LPPOINT lpPoint) const {
 
 void CWnd::ScreenToClient(LPRECT lpRect) const {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
-}
-
-void CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const {
-    ::MapWindowPoints(m_hWnd, afx::WindowOf(pwndTo), reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 void CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const {

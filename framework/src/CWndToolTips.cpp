@@ -54,14 +54,6 @@ bool IsKeyOrButton(UINT message) {
 
 } // namespace
 
-BOOL CWnd::EnableToolTips(BOOL bEnable) {
-    m_toolTips = bEnable != FALSE;
-    if (!bEnable && afx::CurrentThread().toolTipOver == m_hWnd) {
-        CancelToolTips();
-    }
-    return !bEnable || TheToolTip() != nullptr;
-}
-
 void PASCAL CWnd::CancelToolTips(BOOL bKeys) {
     afx::ThreadState& thread = afx::CurrentThread();
     CWnd* const over = FromHandlePermanent(thread.toolTipOver);

@@ -17,7 +17,7 @@ bool IsInputMethodWindow(HWND window) {
 } // namespace
 
 afx::CreationHook::CreationHook(CWnd* wnd)
-    : m_wnd(wnd), m_window(nullptr),
+    : m_object(wnd), m_wnd(wnd), m_window(nullptr),
       m_hook(::SetWindowsHookEx(WH_CBT, HookProc, nullptr, ::GetCurrentThreadId())),
       m_outer(CurrentThread().creation) {
     CurrentThread().creation = this;
@@ -28,6 +28,21 @@ afx::CreationHook::~CreationHook() {
     if (m_hook != nullptr) {
         ::UnhookWindowsHookEx(m_hook);
     }
+}
+
+BOOL afx::CreationHook::Finish(HWND created) const {
+    if (created != nullptr) {
+        return TRUE;
+    }
+    // A window that got as far as its first message has ended with WM_NCDESTROY. The object may be
+    // gone by then: the map knows whether it is still there.
+    if (m_window == nullptr) {
+        WndAccess::PostNcDestroy(*m_object);
+    } else if (CWnd::FromHandlePermanent(m_window) == m_object) {
+        m_object->Detach();
+        WndAccess::PostNcDestroy(*m_object);
+    }
+    return FALSE;
 }
 
 bool afx::CreationHook::AttachTo(HWND window) {

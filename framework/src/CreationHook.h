@@ -14,15 +14,18 @@ public:
     CreationHook(const CreationHook&) = delete;
     CreationHook& operator=(const CreationHook&) = delete;
 
-    /// The window the object was attached to; null when none was created.
-    HWND Window() const { return m_window; }
+    /// To be asked once the system has answered. Where it created no window the object is detached
+    /// and told so by PostNcDestroy(), unless WM_NCDESTROY has done that already.
+    BOOL Finish(HWND created) const;
 
 private:
     static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
     bool AttachTo(HWND window);
 
-    /// Null as soon as the object is attached.
+    CWnd* const m_object;
+    /// The object while it still has to be attached.
     CWnd* m_wnd;
+    /// The window the object was attached to.
     HWND m_window;
     HHOOK m_hook;
     /// The creation this one takes place in: windows are created while others are.

@@ -6,7 +6,6 @@
 #include <cfloat>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 #include <type_traits>
 
 // ---- CDataExchange ------------------------------------------------------------------------------
@@ -166,23 +165,11 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value) {
     ExchangeNumber(*pDX, nIDC, value, ParseByte);
 }
 
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value) {
-    ExchangeNumber(*pDX, nIDC, value, ParseInt);
-}
-
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value) {
     ExchangeNumber(*pDX, nIDC, value, ParseInt);
 }
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value) {
-    ExchangeNumber(*pDX, nIDC, value, ParseUint);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value) {
-    ExchangeNumber(*pDX, nIDC, value, ParseInt);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) {
     ExchangeNumber(*pDX, nIDC, value, ParseUint);
 }
 
@@ -192,10 +179,6 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value) {
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value) {
     ExchangeNumber(*pDX, nIDC, value, ParseUint);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value) {
-    ExchangeNumber(*pDX, nIDC, value, ParseReal);
 }
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value) {
@@ -384,47 +367,8 @@ void CDataExchange::LimitLastEdit(int characters) const {
     }
 }
 
-void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
 void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
     CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
-                               unsigned maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD const& value, DWORD minVal, DWORD maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
-                               LONGLONG maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
-                                ULONGLONG maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, IntRange);
-}
-
-void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal) {
-    CheckRange(*pDX, value, minVal, maxVal, RealRange);
 }
 
 void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal,

@@ -76,24 +76,3 @@ BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite) 
     }
     return TRUE;
 }
-
-BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength) {
-    if (lpsz == nullptr) {
-        return FALSE;
-    }
-    const UINT_PTR limit = nLength < 0 ? UINTPTR_MAX : static_cast<UINT_PTR>(nLength) + 1;
-    const BYTE* regionEnd = nullptr;
-    for (UINT_PTR index = 0; index < limit; ++index) {
-        const char* const place = lpsz + index;
-        if (reinterpret_cast<const BYTE*>(place) >= regionEnd) {
-            regionEnd = endOfUsableRegion(place, false);
-            if (regionEnd == nullptr) {
-                return FALSE;
-            }
-        }
-        if (*place == '\0') {
-            break;
-        }
-    }
-    return TRUE;
-}

@@ -55,15 +55,16 @@ public:
         if (OBJ* const known = Find(handle)) {
             return known;
         }
-        std::unique_ptr<OBJ>& temporary = m_temporary[handle];
-        if (temporary == nullptr) {
-            temporary = std::make_unique<OBJ>();
+        auto entry = m_temporary.find(handle);
+        if (entry == m_temporary.end()) {
+            // The object first: without memory for it the table must not get an empty entry.
+            entry = m_temporary.emplace(handle, std::make_unique<OBJ>()).first;
         } else {
             // Its handle was deleted through it, and the system has given the value out again.
-            temporary->Detach();
+            entry->second->Detach();
         }
-        Aim(*temporary, handle);
-        return temporary.get();
+        Aim(*entry->second, handle);
+        return entry->second.get();
     }
 
     /// Makes `object` the permanent one of `handle`. A temporary object that exists stays valid

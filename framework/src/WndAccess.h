@@ -13,6 +13,7 @@ struct WndAccess {
     static LRESULT CallWindowProc(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam) {
         return wnd.WindowProc(message, wParam, lParam);
     }
+    static void PostNcDestroy(CWnd& wnd) { wnd.PostNcDestroy(); }
     static BOOL DispatchThreadMessage(CWinThread& thread, MSG* msg) {
         return thread.DispatchThreadMessage(msg);
     }

@@ -303,7 +303,7 @@ TEST_F(ControlBarTest, TheButtonUnderTheMouseHasATip) {
     EXPECT_TRUE(shown("What the command does"));
     CString tip;
     EXPECT_TRUE(PumpUntil([&tip] {
-        CWnd* const window = CWnd::FindWindow(TOOLTIPS_CLASS, nullptr);
+        CWnd* const window = CWnd::FromHandle(::FindWindow(TOOLTIPS_CLASS, nullptr));
         if (window != nullptr && window->IsWindowVisible())
             window->GetWindowText(tip);
         return tip == "Tip";

@@ -189,6 +189,17 @@ TEST_F(OwnedDialog, OwnersAreDisabledMeanwhileAndActiveAgainAfterwards) {
     EXPECT_EQ(::GetActiveWindow(), m_owner.m_hWnd);
 }
 
+TEST_F(OwnedDialog, LackOfMemoryInItsLoopEndsIt) {
+    class Starved : public StepDialog {
+    public:
+        using StepDialog::StepDialog;
+        BOOL PreTranslateMessage(MSG*) override { throw std::bad_alloc(); }
+    } dialog(&m_owner);
+    EXPECT_EQ(dialog.Run([] {}), IDABORT);
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
 TEST_F(OwnedDialog, ACommandButtonGivesTheCommandToTheOwner) {
     StepDialog dialog(&m_owner);
     dialog.Run([&] {
@@ -370,7 +381,7 @@ TEST_F(DataExchange, ButtonsAndScrollBars) {
     EXPECT_EQ(m_dialog.IsDlgButtonChecked(IDC_CHECK), static_cast<UINT>(BST_INDETERMINATE));
     EXPECT_EQ(Through(DDX_Check, IDC_CHECK, 17, 17), BST_UNCHECKED);
     EXPECT_EQ(Through(DDX_Radio, IDC_RADIO1, 1, 0), 1);
-    EXPECT_EQ(m_dialog.GetCheckedRadioButton(IDC_RADIO1, IDC_RADIO2), IDC_RADIO2);
+    EXPECT_EQ(m_dialog.IsDlgButtonChecked(IDC_RADIO2), static_cast<UINT>(BST_CHECKED));
     EXPECT_EQ(Through(DDX_Scroll, IDC_SCROLL, 20, 0), 20);
 }
 

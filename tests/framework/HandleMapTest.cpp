@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <new>
 #include <thread>
 
 namespace {
@@ -15,7 +16,11 @@ struct Wrapper {
     Handle handle = nullptr;
     Handle alias = nullptr;
 
-    Wrapper() { ++alive; }
+    Wrapper() {
+        if (std::exchange(refused, false))
+            throw std::bad_alloc();
+        ++alive;
+    }
     Wrapper(const Wrapper&) = delete;
     Wrapper& operator=(const Wrapper&) = delete;
     ~Wrapper();
@@ -23,10 +28,12 @@ struct Wrapper {
     void Attach(Handle value);
     Handle Detach();
 
+    static bool refused; // by the next construction
     static std::atomic<int> alive;
     static std::atomic<int> destroyedWithHandle;
 };
 
+bool Wrapper::refused = false;
 std::atomic<int> Wrapper::alive{0};
 std::atomic<int> Wrapper::destroyedWithHandle{0};
 
@@ -65,6 +72,13 @@ protected:
         EXPECT_EQ(0, Wrapper::destroyedWithHandle.exchange(0));
     }
 };
+
+TEST_F(HandleMapTest, LackOfMemoryLeavesNothingBehind) {
+    Wrapper::refused = true;
+    EXPECT_THROW(Map().FromHandle(first), std::bad_alloc);
+    EXPECT_EQ(nullptr, Map().Find(first));
+    EXPECT_NE(nullptr, Map().FromHandle(first));
+}
 
 TEST_F(HandleMapTest, UnknownHandleGetsOneTemporaryObjectAndNullNone) {
     EXPECT_EQ(nullptr, Map().Find(first));

@@ -332,7 +332,6 @@ TEST_F(Family, ParentsAndOwners) {
     m_child.SetOwner(&m_grandchild);
     m_grandchild.SetOwner(&m_child);
     EXPECT_NE(m_child.GetTopLevelOwner(), nullptr);
-    EXPECT_NE(m_child.GetParentOwner(), nullptr);
 }
 
 TEST_F(Family, MessagesToDescendants) {

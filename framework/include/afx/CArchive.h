@@ -39,29 +39,18 @@ public:
 
     BOOL IsLoading() const;
     BOOL IsStoring() const;
-    BOOL IsBufferEmpty() const;
-    CFile* GetFile() const;
 
     /// Any document that the objects shall know of; the archive does not use it.
     CDocument* m_pDocument;
 
     /// Writes what is buffered and parts from the file.
     void Close();
-    /// Parts from the file without writing what is buffered.
-    void Abort();
     /// Storing: writes what is buffered. Loading: moves the file back to the archive's place.
     void Flush();
 
     /// @return the number of bytes read; less than nMax only at the end of the file.
     UINT Read(void* lpBuf, UINT nMax);
     void Write(const void* lpBuf, INT nMax);
-    /// Writes the characters without a terminating null.
-    void WriteString(LPCTSTR lpsz);
-    /// Reads a line, without its line end, up to nMax - 1 characters.
-    /// @return the buffer, null when the file has ended.
-    LPTSTR ReadString(LPTSTR lpsz, UINT nMax);
-    /// @return false when the file has ended.
-    BOOL ReadString(CString& rString);
 
     CArchive& operator<<(BYTE by);
     CArchive& operator<<(WORD w);

@@ -19,9 +19,6 @@ public:
                      LPCTSTR lpszBitmapResourceDisabled = NULL);
     BOOL LoadBitmaps(UINT nIDBitmapResource, UINT nIDBitmapResourceSel = 0,
                      UINT nIDBitmapResourceFocus = 0, UINT nIDBitmapResourceDisabled = 0);
-    /// Subclasses the button, loads the bitmaps named by its caption with "U", "D", "F" and "X"
-    /// (up, down, focused, disabled) after it, and makes the button as large as the first.
-    BOOL AutoLoad(UINT nID, CWnd* pParent);
     /// Makes the button as large as the first bitmap.
     void SizeToContent();
 

@@ -13,24 +13,14 @@ public:
     virtual BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                         UINT nID);
 
-    /// BST_ flags: checked, pushed, focused.
-    UINT GetState() const;
-    void SetState(BOOL bHighlight);
     int GetCheck() const;
     void SetCheck(int nCheck);
     /// The BS_ style in its low bits.
     UINT GetButtonStyle() const;
     void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE);
 
-    HICON SetIcon(HICON hIcon);
-    HICON GetIcon() const;
     HBITMAP SetBitmap(HBITMAP hBitmap);
     HBITMAP GetBitmap() const;
-    HCURSOR SetCursor(HCURSOR hCursor);
-    HCURSOR GetCursor();
-
-    BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
-    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist);
 
     /// Draws a button with BS_OWNERDRAW. Override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -48,13 +48,6 @@ public:
     /// @return nonzero when a handler was found and did not pass the message on.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-    /// Shows the wait cursor; calls nest.
-    void BeginWaitCursor();
-    /// Takes back one BeginWaitCursor().
-    void EndWaitCursor();
-    /// Shows the wait cursor again after something else has changed the cursor.
-    void RestoreWaitCursor();
-
     DECLARE_MESSAGE_MAP()
 };
 

@@ -30,7 +30,6 @@ public:
     /// Prepares DoModal() with a template in memory, which must stay until then.
     BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL,
                            void* lpDialogInit = NULL);
-    BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = NULL);
     /// Shows the dialog and handles messages until it ends. Its owner is disabled meanwhile.
     /// @return what EndDialog() was given; -1 when the dialog could not be created, IDABORT when
     ///         something else went wrong.
@@ -40,13 +39,9 @@ public:
 
     /// Turns dialog units into pixels.
     void MapDialogRect(LPRECT lpRect) const;
-    void NextDlgCtrl() const;
-    void PrevDlgCtrl() const;
-    void GotoDlgCtrl(CWnd* pWndCtrl);
     void SetDefID(UINT nID);
     /// @return MAKELONG(identifier, DC_HASDEFID); 0 when there is no default button.
     DWORD GetDefID() const;
-    void SetHelpID(UINT nIDR);
 
     /// Called before the dialog is shown. The default loads the data into the controls.
     /// @return zero when the focus was set here.
@@ -72,13 +67,10 @@ private:
     static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFontMessage(WPARAM wParam, LPARAM lParam);
 
-    // The template: a resource (its name or MAKEINTRESOURCE), a global handle, or a pointer. What
-    // is not used is null.
+    // The template: a resource (its name or MAKEINTRESOURCE) or a pointer. What is not used is null.
     LPCTSTR m_templateName;
     CString m_templateNameCopy;
-    HGLOBAL m_templateHandle;
     LPCDLGTEMPLATE m_template;
     void* m_dialogInit;
     CWnd* m_parent;
-    UINT m_helpId;
 };

@@ -28,16 +28,10 @@ public:
     CDumpContext& operator<<(double d);
     CDumpContext& operator<<(LONGLONG n);
     CDumpContext& operator<<(ULONGLONG n);
-    CDumpContext& operator<<(HWND h);
-    CDumpContext& operator<<(HDC h);
-    CDumpContext& operator<<(HMENU h);
-    CDumpContext& operator<<(HACCEL h);
-    CDumpContext& operator<<(HFONT h);
 
     /// How deep collections dump: 0 only themselves, above 0 their elements too.
     int GetDepth() const;
     void SetDepth(int nNewDepth);
-    void Flush();
 
 private:
     CFile* m_file;

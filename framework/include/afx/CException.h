@@ -13,8 +13,6 @@
 [[noreturn]] void AFXAPI AfxThrowInvalidArgException();
 [[noreturn]] void AFXAPI AfxThrowResourceException();
 [[noreturn]] void AFXAPI AfxThrowUserException();
-/// Ends the program at once.
-[[noreturn]] void AFXAPI AfxAbort();
 
 /// Base of all exceptions of the framework.
 class CException : public CObject {

@@ -39,8 +39,6 @@ public:
     static const HANDLE hFileNull;
 
     CFile();
-    /// Attaches an open file, which the destructor leaves open: Close() closes it.
-    CFile(HANDLE hFile);
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CFile() override;
 
@@ -64,7 +62,6 @@ public:
     /// @param nFrom begin, current or end. @return the new position, which may lie behind the end.
     virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
     void SeekToBegin();
-    ULONGLONG SeekToEnd();
     virtual ULONGLONG GetLength() const;
     /// Cuts off or extends the file, and leaves the position at its new end.
     virtual void SetLength(ULONGLONG dwNewLen);

@@ -38,10 +38,7 @@ public:
 
     /// The cause that an error code of the operating system stands for.
     static int PASCAL OsErrorToException(LONG lOsError);
-    /// The cause that a value of errno stands for.
-    static int PASCAL ErrnoToException(int nErrno);
     [[noreturn]] static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = nullptr);
-    [[noreturn]] static void PASCAL ThrowErrno(int nErrno, LPCTSTR lpszFileName = nullptr);
 
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
                          PUINT pnHelpContext = nullptr) const override;

@@ -3,8 +3,6 @@
 
 #include "afx/CGdiObject.h"
 
-class CDC;
-
 /// A GDI font.
 class CFont : public CGdiObject {
     DECLARE_DYNAMIC(CFont)
@@ -21,14 +19,6 @@ public:
                     BYTE nOutPrecision, BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily,
                     LPCTSTR lpszFacename);
     BOOL CreateFontIndirect(const LOGFONT* lpLogFont);
-
-    /// @param nPointSize    character height in tenths of a point.
-    /// @param lpszFaceName  null for any face; cut after LF_FACESIZE - 1 bytes.
-    /// @param pDC           where the font is to be used; null for the screen.
-    BOOL CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC = NULL);
-
-    /// As CreateFontIndirect(), with `lfHeight` in tenths of a point.
-    BOOL CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC = NULL);
 
     int GetLogFont(LOGFONT* pLogFont);
 

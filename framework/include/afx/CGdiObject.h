@@ -45,20 +45,10 @@ public:
     /// LOGFONT, BITMAP, or a WORD for a palette. Number of bytes copied, zero on failure.
     int GetObject(int nCount, LPVOID lpObject) const;
 
-    /// One of the OBJ_ values, zero without a valid handle.
-    UINT GetObjectType() const;
-
-    /// Resets the origin of a brush, or makes a palette be realized anew.
-    BOOL UnrealizeObject();
-
     /// The attached object of a handle, else a temporary one of the class that fits the kind of GDI
     /// object (CPen for a pen ...). Null for a null handle.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
 
     /// Destroys the calling thread's temporary objects of this class and those derived from it.
     static void PASCAL DeleteTempMap();
-
-    /// Same handle.
-    BOOL operator==(const CGdiObject& obj) const;
-    BOOL operator!=(const CGdiObject& obj) const;
 };

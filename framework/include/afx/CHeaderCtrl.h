@@ -15,12 +15,5 @@ public:
 
     /// @return -1 on failure.
     int GetItemCount() const;
-    BOOL GetItem(int nPos, HDITEM* pHeaderItem) const;
-    BOOL SetItem(int nPos, HDITEM* pHeaderItem);
-    int InsertItem(int nPos, HDITEM* phdi);
-    BOOL DeleteItem(int nPos);
     BOOL GetItemRect(int nIndex, LPRECT lpRect) const;
-    int OrderToIndex(int nOrder) const;
-    BOOL GetOrderArray(LPINT piArray, int iCount);
-    BOOL SetOrderArray(int iCount, LPINT piArray);
 };

@@ -30,7 +30,6 @@ public:
                  UINT nStateMask, LPARAM lParam, int nIndent);
     int InsertItem(const LVITEM* pItem);
     int InsertItem(int nItem, LPCTSTR lpszItem);
-    int InsertItem(int nItem, LPCTSTR lpszItem, int nImage);
     int InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask,
                    int nImage, LPARAM lParam);
     BOOL DeleteItem(int nItem);
@@ -44,24 +43,14 @@ public:
     UINT GetItemState(int nItem, UINT nMask) const;
     BOOL SetItemState(int nItem, LVITEM* pItem);
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);
-    BOOL GetCheck(int nItem) const;
-    BOOL SetCheck(int nItem, BOOL fCheck = TRUE);
     /// @}
 
     /// @name Searching, sorting, selection
     /// @{
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const;
-    int GetNextItem(int nItem, int nFlags) const;
     /// The comparison is given the items' parameters.
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
-    /// The comparison is given the items' indexes.
-    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
     UINT GetSelectedCount() const;
-    int GetSelectionMark();
-    int SetSelectionMark(int iIndex);
-    /// For GetNextSelectedItem(); null when nothing is selected.
-    POSITION GetFirstSelectedItemPosition() const;
-    int GetNextSelectedItem(POSITION& pos) const;
     /// @}
 
     /// @name Columns
@@ -70,10 +59,6 @@ public:
     int InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat = LVCFMT_LEFT,
                      int nWidth = -1, int nSubItem = -1);
     BOOL DeleteColumn(int nCol);
-    BOOL GetColumn(int nCol, LVCOLUMN* pColumn) const;
-    BOOL SetColumn(int nCol, const LVCOLUMN* pColumn);
-    int GetColumnWidth(int nCol) const;
-    BOOL SetColumnWidth(int nCol, int cx);
     BOOL GetColumnOrderArray(LPINT piArray, int iCount = -1);
     BOOL SetColumnOrderArray(int iCount, LPINT piArray);
     /// May be temporary. Null when there is no header.
@@ -90,9 +75,6 @@ public:
     BOOL SetTextBkColor(COLORREF cr);
     DWORD GetExtendedStyle();
     DWORD SetExtendedStyle(DWORD dwNewStyle);
-    CImageList* GetImageList(int nImageList) const;
-    /// The list stays the caller's only with LVS_SHAREIMAGELISTS. @return the former one, or null.
-    CImageList* SetImageList(CImageList* pImageList, int nImageListType);
     /// @}
 
     /// @name Layout
@@ -100,15 +82,11 @@ public:
     int GetTopIndex() const;
     int GetCountPerPage() const;
     BOOL EnsureVisible(int nItem, BOOL bPartialOK);
-    BOOL Scroll(CSize size);
     /// @param nCode  LVIR_BOUNDS, LVIR_LABEL ...
     BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
-    BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref);
     int HitTest(LVHITTESTINFO* pHitTestInfo) const;
     int HitTest(CPoint pt, UINT* pFlags = NULL) const;
-    int SubItemHitTest(LPLVHITTESTINFO pInfo);
     BOOL RedrawItems(int nFirst, int nLast);
-    BOOL Update(int nItem);
     /// @}
 
     /// Draws a list with LVS_OWNERDRAWFIXED. Override it.

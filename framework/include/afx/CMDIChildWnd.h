@@ -27,8 +27,6 @@ public:
     CMDIFrameWnd* GetMDIFrame();
     void MDIActivate();
     void MDIDestroy();
-    void MDIMaximize();
-    void MDIRestore();
     /// Menu and accelerators to be used while the child is active. They stay the caller's.
     void SetHandles(HMENU hMenu, HACCEL hAccel);
 

@@ -3,7 +3,6 @@
 
 #include <afx.h>
 
-class CBitmap;
 class CWnd;
 
 /// A menu and the duty to destroy it.
@@ -28,13 +27,6 @@ public:
 
     operator HMENU() const;
 
-    /// The attached handle; null for a null pointer.
-    HMENU GetSafeHmenu() const;
-
-    /// Same handle.
-    BOOL operator==(const CMenu& menu) const;
-    BOOL operator!=(const CMenu& menu) const;
-
     /// @name Creation, for an object that holds no menu
     /// @{
     BOOL CreateMenu();
@@ -43,7 +35,6 @@ public:
     /// Loads a menu resource of the program.
     BOOL LoadMenu(LPCTSTR lpszResourceName);
     BOOL LoadMenu(UINT nIDResource);
-    BOOL LoadMenuIndirect(const void* lpMenuTemplate);
 
     /// Zero for a null handle.
     BOOL Attach(HMENU hMenu);
@@ -62,19 +53,15 @@ public:
     /// @name Items
     /// `nFlags` says what `lpszNewItem` is: a text (MF_STRING), any value for the owner-draw
     /// handlers (MF_OWNERDRAW), or nothing (MF_SEPARATOR). With MF_POPUP, `nIDNewItem` is a menu
-    /// handle that then belongs to this menu. A bitmap stays the caller's and must outlive the item.
+    /// handle that then belongs to this menu.
     /// @{
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, LPCTSTR lpszNewItem = NULL);
-    BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
 
     /// Inserts before the item `nPosition`.
     BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
                     LPCTSTR lpszNewItem = NULL);
-    BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
-    BOOL InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
                     LPCTSTR lpszNewItem = NULL);
-    BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
 
     /// Takes the item out; its submenu stays alive and becomes the caller's.
     BOOL RemoveMenu(UINT nPosition, UINT nFlags);
@@ -103,9 +90,6 @@ public:
     /// is no such item.
     UINT GetMenuState(UINT nID, UINT nFlags) const;
 
-    /// Bitmaps shown instead of the check mark; they stay the caller's. Null for none.
-    BOOL SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
-                            const CBitmap* pBmpChecked);
     BOOL GetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     BOOL SetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     /// @}
@@ -129,22 +113,12 @@ public:
     CMenu* GetSubMenu(int nPos) const;
     /// @}
 
-    /// @name The menu as a whole
-    /// @{
-    BOOL GetMenuInfo(LPMENUINFO lpcmi) const;
-    BOOL SetMenuInfo(LPCMENUINFO lpcmi);
-    DWORD GetMenuContextHelpId() const;
-    BOOL SetMenuContextHelpId(DWORD dwContextHelpId);
-
     /// Shows a popup menu at a point of the screen and returns when it is closed.
-    /// @param nFlags, fuFlags  TPM_ flags.
-    /// @param pWnd             receives the messages of the menu.
-    /// @param lpRect           ignored by the system.
-    /// @param lptpm            an area of the screen not to cover, or null.
+    /// @param nFlags  TPM_ flags.
+    /// @param pWnd    receives the messages of the menu.
+    /// @param lpRect  ignored by the system.
     /// @return with TPM_RETURNCMD the chosen command or 0, else nonzero on success.
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = 0);
-    BOOL TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm);
-    /// @}
 
     /// @name Owner-drawn menus: called by the window that owns the menu; do nothing here.
     /// @{

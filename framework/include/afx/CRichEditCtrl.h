@@ -15,8 +15,6 @@ public:
 
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// In characters.
-    long GetTextLength() const;
     void GetSel(long& nStartChar, long& nEndChar) const;
     /// 0 and -1 select everything.
     void SetSel(long nStartChar, long nEndChar);

@@ -37,7 +37,6 @@ protected:                                           \
     static CRuntimeClass* PASCAL _GetBaseClass();    \
                                                      \
 public:
-
 #define DECLARE_DYNCREATE(class_name) \
     DECLARE_DYNAMIC(class_name)       \
     static CObject* PASCAL CreateObject();
@@ -68,8 +67,5 @@ public:
 #define DYNAMIC_DOWNCAST(class_name, object) \
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
 /// The pointer as a pointer to class_name; the kind is only checked by an assertion.
-#define STATIC_DOWNCAST(class_name, object) \
-    (static_cast<class_name*>(AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
 
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
-CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObject);

@@ -16,12 +16,6 @@ public:
     /// Each setter returns the previous picture, or null.
     HBITMAP SetBitmap(HBITMAP hBitmap);
     HBITMAP GetBitmap() const;
-    HICON SetIcon(HICON hIcon);
-    HICON GetIcon() const;
-    HCURSOR SetCursor(HCURSOR hCursor);
-    HCURSOR GetCursor();
-    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE hMetaFile);
-    HENHMETAFILE GetEnhMetaFile() const;
 
     /// Draws a control with SS_OWNERDRAW. Override it.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

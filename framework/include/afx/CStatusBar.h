@@ -40,7 +40,6 @@ public:
     UINT GetPaneStyle(int nIndex) const;
     void SetPaneStyle(int nIndex, UINT nStyle);
     CString GetPaneText(int nIndex) const;
-    void GetPaneText(int nIndex, CString& rString) const;
     /// @param bUpdate shows the text at once.
     BOOL SetPaneText(int nIndex, LPCTSTR lpszNewText, BOOL bUpdate = TRUE);
     /// Called for a pane with SBPS_OWNERDRAW.

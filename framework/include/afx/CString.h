@@ -40,7 +40,6 @@ public:
     CString(const XCHAR* pszSrc);
     /// Converts from UTF-16 to the ANSI code page. Null gives an empty string.
     explicit CString(const YCHAR* pszSrc);
-    explicit CString(const unsigned char* pszSrc);
     explicit CString(char ch, int nLength = 1);
     explicit CString(wchar_t ch, int nLength = 1);
     CString(const XCHAR* pch, int nLength);
@@ -49,10 +48,6 @@ public:
 
     CString& operator=(const CString& strSrc);
     CString& operator=(PCXSTR pszSrc);
-    CString& operator=(PCYSTR pszSrc);
-    CString& operator=(const unsigned char* pszSrc);
-    CString& operator=(XCHAR ch);
-    CString& operator=(YCHAR ch);
 
     // Access
 
@@ -67,7 +62,6 @@ public:
     operator PCXSTR() const noexcept;
     PCXSTR GetString() const noexcept;
     void SetString(PCXSTR pszSrc);
-    void SetString(PCXSTR pszSrc, int nLength);
 
     // The character buffer
 
@@ -75,25 +69,17 @@ public:
     /// A buffer for at least nMinBufferLength characters and a null, filled with the present text.
     /// Call ReleaseBuffer after writing to it and before any other member.
     PXSTR GetBuffer(int nMinBufferLength);
-    PXSTR GetBuffer();
     /// A buffer of exactly nLength characters, which is the length from now on.
     PXSTR GetBufferSetLength(int nLength);
     /// Ends writing through GetBuffer. -1 stands for the length up to the first null.
     void ReleaseBuffer(int nNewLength = -1);
     void ReleaseBufferSetLength(int nNewLength);
-    /// Stops sharing of the buffer: copies made from now on get their own.
-    PXSTR LockBuffer();
-    void UnlockBuffer() noexcept;
-    void Preallocate(int nLength);
-    void FreeExtra();
     void Truncate(int nNewLength);
 
     // Comparison
 
     int Compare(PCXSTR psz) const;
     int CompareNoCase(PCXSTR psz) const;
-    int Collate(PCXSTR psz) const;
-    int CollateNoCase(PCXSTR psz) const;
 
     // Parts
 
@@ -101,13 +87,6 @@ public:
     CString Mid(int iFirst, int nCount) const;
     CString Left(int nCount) const;
     CString Right(int nCount) const;
-    /// The characters at the start that all occur in the set.
-    CString SpanIncluding(PCXSTR pszCharSet) const;
-    /// The characters before the first one that occurs in the set.
-    CString SpanExcluding(PCXSTR pszCharSet) const;
-    /// The next token at or after iStart, where any character of pszTokens separates tokens.
-    /// @param iStart receives the index behind the token and its separator, -1 when there is none.
-    CString Tokenize(PCXSTR pszTokens, int& iStart) const;
 
     // Changes
 
@@ -117,69 +96,39 @@ public:
     void AppendChar(XCHAR ch);
     CString& operator+=(const CString& str);
     CString& operator+=(PCXSTR pszSrc);
-    CString& operator+=(PCYSTR pszSrc);
     CString& operator+=(char ch);
     CString& operator+=(unsigned char ch);
     CString& operator+=(wchar_t ch);
     CString& MakeUpper();
     CString& MakeLower();
-    CString& MakeReverse();
     CString& TrimLeft();
-    CString& TrimLeft(XCHAR chTarget);
     CString& TrimLeft(PCXSTR pszTargets);
     CString& TrimRight();
-    CString& TrimRight(XCHAR chTarget);
     CString& TrimRight(PCXSTR pszTargets);
     CString& Trim();
-    CString& Trim(XCHAR chTarget);
-    CString& Trim(PCXSTR pszTargets);
-    /// @return the number of characters replaced.
-    int Replace(XCHAR chOld, XCHAR chNew);
     /// @return the number of occurrences replaced.
     int Replace(PCXSTR pszOld, PCXSTR pszNew);
-    /// @return the number of characters removed.
-    int Remove(XCHAR chRemove);
-    /// Inserts before iIndex; an index behind the end appends. @return the new length.
-    int Insert(int iIndex, XCHAR ch);
-    int Insert(int iIndex, PCXSTR psz);
     /// @return the new length.
     int Delete(int iIndex, int nCount = 1);
-    void AnsiToOem();
-    void OemToAnsi();
 
     // Search: all answer an index, or -1
 
     int Find(XCHAR ch, int iStart = 0) const noexcept;
     int Find(PCXSTR pszSub, int iStart = 0) const noexcept;
-    int FindOneOf(PCXSTR pszCharSet) const noexcept;
     int ReverseFind(XCHAR ch) const noexcept;
 
     // Formatting and resources
 
     void AFX_CDECL Format(PCXSTR pszFormat, ...);
-    /// @param nFormatID string resource that holds the format.
-    void AFX_CDECL Format(UINT nFormatID, ...);
     void FormatV(PCXSTR pszFormat, va_list args);
     void AFX_CDECL AppendFormat(PCXSTR pszFormat, ...);
-    void AFX_CDECL AppendFormat(UINT nFormatID, ...);
-    /// Formats with the inserts of the system's message tables, "%1!s!" and so on.
-    void AFX_CDECL FormatMessage(PCXSTR pszFormat, ...);
-    void AFX_CDECL FormatMessage(UINT nFormatID, ...);
-    void FormatMessageV(PCXSTR pszFormat, va_list* pArgList);
     /// Loads a string resource. @return nonzero on success; otherwise the string is unchanged.
     BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
-    BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
-    /// @return nonzero when the variable exists; otherwise the string is empty.
-    BOOL GetEnvironmentVariable(PCXSTR pszVar);
 
     // Characters without an object
 
     static int StringLength(PCXSTR psz) noexcept;
-    static void CopyChars(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept;
-    static void CopyChars(XCHAR* pchDest, size_t nDestLen, const XCHAR* pchSrc,
-                          int nChars) noexcept;
-    static void CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept;
 
 private:
     afx::StringBlock* block() const noexcept;

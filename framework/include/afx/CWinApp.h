@@ -5,41 +5,6 @@
 
 #include "afx/CWinThread.h"
 
-/// What a command line asks for.
-class CCommandLineInfo : public CObject {
-public:
-    CCommandLineInfo();
-
-    /// Called for each parameter.
-    /// @param bFlag TRUE for a parameter that began with "-" or "/", which is taken off.
-    /// @param bLast TRUE for the last one.
-    virtual void ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast);
-
-    BOOL m_bShowSplash;
-    BOOL m_bRunEmbedded;
-    BOOL m_bRunAutomated;
-    enum {
-        FileNew,
-        FileOpen,
-        FilePrint,
-        FilePrintTo,
-        FileDDE,
-        AppRegister,
-        AppUnregister,
-        RestartByRestartManager,
-        FileNothing = -1
-    } m_nShellCommand;
-    /// The first parameter that is not a flag.
-    CString m_strFileName;
-    CString m_strPrinterName;
-    CString m_strDriverName;
-    CString m_strPortName;
-
-private:
-    void ParseFlag(const TCHAR* flag);
-    void ParseName(const TCHAR* name);
-};
-
 /// The application; a program has one global object of a class derived from it.
 ///
 /// The names are allocated with malloc and freed by the destructor.
@@ -70,25 +35,13 @@ public:
     CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = NULL);
     /// A null value deletes the entry; a null entry deletes the section.
     BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
-    /// @param ppData receives a block to be freed with delete[].
-    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
-    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
     /// Deletes a key and everything below it. @return a Windows error code.
     LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
     /// @}
 
-    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
-    HCURSOR LoadCursor(UINT nIDResource) const;
     HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
-    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
     HICON LoadIcon(UINT nIDResource) const;
-    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
-    HICON LoadOEMIcon(UINT nIDIcon) const;
-
-    /// Gives each parameter of the command line to CCommandLineInfo::ParseParam.
-    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
-    void HideApplication();
 
     BOOL InitInstance() override;
     int ExitInstance() override;
@@ -99,12 +52,9 @@ public:
     LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
     /// Shows the box of AfxMessageBox().
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
-    /// Counts the wait cursors. @param nCode 1 begins, -1 ends, 0 shows it again.
-    virtual void DoWaitCursor(int nCode);
 
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
-    void SetRegistryKey(UINT nIDRegistryKey);
 
     DECLARE_MESSAGE_MAP()
 
@@ -116,30 +66,15 @@ private:
     HKEY OpenAppKey();
     HKEY OpenSectionKey(LPCTSTR section);
 
-    int m_waitCursors;
-    HCURSOR m_cursorBefore;
     // Not for programs, which have one application: a test puts its own in the place of another.
     CWinApp* const m_outerApp;
     CWinThread* const m_outerThread;
-};
-
-/// Shows the wait cursor while the object exists.
-class CWaitCursor {
-public:
-    CWaitCursor();
-    ~CWaitCursor();
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
-
-    /// Shows it again after something else has changed the cursor.
-    void Restore();
 };
 
 /// The application object; null in a program without one.
 CWinApp* AFXAPI AfxGetApp();
 /// The main window of the calling thread, else of the application; may be null.
 CWnd* AFXAPI AfxGetMainWnd();
-LPCTSTR AFXAPI AfxGetAppName();
 HINSTANCE AFXAPI AfxGetInstanceHandle();
 HINSTANCE AFXAPI AfxGetResourceHandle();
 void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
@@ -148,10 +83,6 @@ HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
 
 /// Shows a message box owned by the main window, through CWinApp::DoMessageBox.
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
-int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = (UINT)-1);
-/// Loads a string and puts lpsz1 in the place of "%1".
-void AFXAPI AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
-void AFXAPI AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
 /// Copies the part of that index out of a separated list. FALSE when there are not so many.
 BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString,
                                 TCHAR chSep = '\n');
@@ -161,7 +92,5 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
                        int nCmdShow);
 /// The framework's main function: prepares, runs and ends the application.
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
-/// Accepted for source compatibility: there are no ActiveX controls.
-void AFXAPI AfxEnableControlContainer();
 /// Loads the rich edit control, version 2.0 and later; once is enough. FALSE when there is none.
 BOOL AFXAPI AfxInitRichEdit2();

@@ -7,37 +7,18 @@
 #include "afx/CException.h"
 #include "afx/CWnd.h"
 
-/// Controlling function of a worker thread.
-typedef UINT(AFX_CDECL* AFX_THREADPROC)(LPVOID);
-
-/// A thread with a message loop, or a worker thread with a function instead.
+/// A thread with a message loop. There is one, the application's; the toolkit starts none.
 class CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 
 public:
     CWinThread();
-    /// Closes the thread's handle.
     ~CWinThread() override;
 
     /// The main window; when it is destroyed the loop ends. Not owned.
     CWnd* m_pMainWnd;
     /// The active main window of an in-place container; normally null.
     CWnd* m_pActiveWnd;
-    /// The object deletes itself when the thread ends.
-    BOOL m_bAutoDelete;
-    HANDLE m_hThread;
-    DWORD m_nThreadID;
-
-    operator HANDLE() const { return m_hThread; }
-
-    /// Starts the thread. @return zero when it could not be started.
-    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
-                      LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
-    int GetThreadPriority();
-    BOOL SetThreadPriority(int nPriority);
-    DWORD SuspendThread();
-    DWORD ResumeThread();
-    BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     /// Called at the start of the thread; FALSE ends it at once.
     virtual BOOL InitInstance();
@@ -65,17 +46,9 @@ public:
 
 private:
     friend struct afx::WndAccess;
-    friend CWinThread* AfxBeginThread(AFX_THREADPROC, LPVOID, int, UINT, DWORD,
-                                      LPSECURITY_ATTRIBUTES);
-    friend void AFXAPI AfxEndThread(UINT, BOOL);
 
-    static unsigned __stdcall ThreadMain(void* thread);
-    int RunThread();
     BOOL DispatchThreadMessage(MSG* msg);
 
-    /// Function and parameter of a worker thread; null for a thread with a message loop.
-    AFX_THREADPROC m_threadProc;
-    LPVOID m_threadParam;
     /// Where the mouse was at the last mouse message, in screen coordinates.
     CPoint m_lastMousePos;
     UINT m_lastMouseMessage;
@@ -83,13 +56,3 @@ private:
 
 /// The thread object of the calling thread; null when it has none.
 CWinThread* AfxGetThread();
-/// Starts a worker thread. Null when it could not be started.
-CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
-                           int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
-                           DWORD dwCreateFlags = 0, LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
-/// Starts a thread with a message loop, an object of a class derived from CWinThread.
-CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority = THREAD_PRIORITY_NORMAL,
-                           UINT nStackSize = 0, DWORD dwCreateFlags = 0,
-                           LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
-/// Ends the calling thread.
-void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);

@@ -109,36 +109,19 @@ public:
     /// @param nFlags SWP_ flags for a SetWindowPos() that makes the change visible; 0 for none.
     /// @return zero when nothing changed.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
-    BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL IsWindowEnabled() const;
     BOOL IsWindowVisible() const;
     BOOL IsIconic() const;
     BOOL IsZoomed() const;
     BOOL ShowWindow(int nCmdShow);
-    void ShowOwnedPopups(BOOL bShow = TRUE);
-    void CloseWindow();
-    BOOL GetWindowInfo(PWINDOWINFO pwi) const;
-    BOOL GetTitleBarInfo(PTITLEBARINFO pti) const;
-    BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags);
-    BOOL GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const;
-    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags);
-    BOOL FlashWindow(BOOL bInvert);
-    BOOL FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout);
-    DWORD GetWindowContextHelpId() const;
-    BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
-    void DragAcceptFiles(BOOL bAccept = TRUE);
 
     // ---- Text, font, icon, identifier -----------------------------------------------------------
 
     void SetWindowText(LPCTSTR lpszString);
-    int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const;
     void GetWindowText(CString& rString) const;
-    int GetWindowTextLength() const;
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
     CFont* GetFont() const;
-    HICON SetIcon(HICON hIcon, BOOL bBigIcon);
-    HICON GetIcon(BOOL bBigIcon) const;
     int GetDlgCtrlID() const;
     int SetDlgCtrlID(int nID);
 
@@ -149,10 +132,6 @@ public:
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    BOOL GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const;
-    BOOL SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl);
-    int SetWindowRgn(HRGN hRgn, BOOL bRedraw);
-    int GetWindowRgn(HRGN hRgn) const;
     void BringWindowToTop();
     /// What RepositionBars() is to do.
     enum RepositionFlags { reposDefault = 0, reposQuery = 1, reposExtra = 2 };
@@ -166,7 +145,6 @@ public:
     void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag = reposDefault,
                         LPRECT lpRectParam = NULL, LPCRECT lpRectClient = NULL,
                         BOOL bStretch = TRUE);
-    UINT ArrangeIconicWindows();
     /// Centres the window on its parent, its owner or the given window, inside the monitor's work
     /// area (a child: inside its parent).
     void CenterWindow(CWnd* pAlternateOwner = NULL);
@@ -177,58 +155,25 @@ public:
     void ClientToScreen(LPRECT lpRect) const;
     void ScreenToClient(LPPOINT lpPoint) const;
     void ScreenToClient(LPRECT lpRect) const;
-    void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
 
     // ---- Painting -------------------------------------------------------------------------------
 
-    CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
-    void EndPaint(LPPAINTSTRUCT lpPaint);
-    CDC* GetDC();
-    CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
-    CDC* GetWindowDC();
-    int ReleaseDC(CDC* pDC);
     void Invalidate(BOOL bErase = TRUE);
     void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
     void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE);
     void ValidateRect(LPCRECT lpRect);
-    void ValidateRgn(CRgn* pRgn);
     BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE);
     int GetUpdateRgn(CRgn* pRgn, BOOL bErase = FALSE);
     void UpdateWindow();
     BOOL RedrawWindow(LPCRECT lpRectUpdate = NULL, CRgn* prgnUpdate = NULL,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     void SetRedraw(BOOL bRedraw = TRUE);
-    BOOL LockWindowUpdate();
-    void UnlockWindowUpdate();
-    /// Sends WM_PRINT. @param dwFlags PRF_ flags.
-    void Print(CDC* pDC, DWORD dwFlags) const;
-    /// Sends WM_PRINTCLIENT.
-    void PrintClient(CDC* pDC, DWORD dwFlags) const;
-    BOOL PrintWindow(CDC* pDC, UINT nFlags) const;
-    BOOL DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags);
-    BOOL DrawAnimatedRects(int idAni, const RECT* lprcFrom, const RECT* lprcTo);
 
     // ---- Scrolling and timers -------------------------------------------------------------------
 
-    int GetScrollPos(int nBar) const;
-    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
-    void GetScrollRange(int nBar, LPINT lpMinPos, LPINT lpMaxPos) const;
-    void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
-    BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
-    BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
-    BOOL GetScrollBarInfo(LONG idObject, PSCROLLBARINFO psbi) const;
-    /// The largest position the scroll box can be moved to.
-    int GetScrollLimit(int nBar);
-    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
-    BOOL EnableScrollBar(int nBar, UINT nArrowFlags = ESB_ENABLE_BOTH);
-    /// Enables or disables the sibling scroll bar, or the window's own when it has none.
-    void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
     /// The control that serves as the window's scroll bar; null here.
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
-    void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = NULL, LPCRECT lpClipRect = NULL);
-    int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
-                       LPRECT lpRectUpdate, UINT flags);
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
                       void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
     BOOL KillTimer(UINT_PTR nIDEvent);
@@ -239,40 +184,23 @@ public:
     CWnd* SetFocus();
     static CWnd* PASCAL GetCapture();
     CWnd* SetCapture();
-    static CWnd* PASCAL GetActiveWindow();
-    CWnd* SetActiveWindow();
     static CWnd* PASCAL GetForegroundWindow();
     BOOL SetForegroundWindow();
-    void CreateCaret(CBitmap* pBitmap);
-    void CreateSolidCaret(int nWidth, int nHeight);
-    void CreateGrayCaret(int nWidth, int nHeight);
-    static CPoint PASCAL GetCaretPos();
-    static void PASCAL SetCaretPos(POINT point);
-    void ShowCaret();
-    void HideCaret();
     BOOL OpenClipboard();
-    static CWnd* PASCAL GetClipboardOwner();
-    static CWnd* PASCAL GetOpenClipboardWindow();
-    BOOL DragDetect(POINT pt) const;
 
     // ---- Relatives ------------------------------------------------------------------------------
 
     CWnd* GetParent() const;
     CWnd* SetParent(CWnd* pWndNewParent);
-    CWnd* GetAncestor(UINT gaFlags) const;
     /// The window commands and notifications go to: the one set, else the parent.
     CWnd* GetOwner() const;
     void SetOwner(CWnd* pOwnerWnd);
-    /// The nearest parent or owner that is not itself a child window.
-    CWnd* GetParentOwner() const;
     /// The nearest frame window up the chain of parents.
     CFrameWnd* GetParentFrame() const;
     /// The outermost parent, a window without WS_CHILD.
     CWnd* GetTopLevelParent() const;
     /// The outermost window, owners included.
     CWnd* GetTopLevelOwner() const;
-    /// The outermost parent if it is a frame window; null when it is another window.
-    CFrameWnd* GetTopLevelFrame() const;
     /// The window a dialog or message box should be owned by.
     /// @param pParent where to start; null for the main window.
     /// @param pWndTop if not null: receives the top-level window that was disabled here and is to
@@ -281,15 +209,6 @@ public:
     BOOL IsChild(const CWnd* pWnd) const;
     CWnd* GetWindow(UINT nCmd) const;
     CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const;
-    CWnd* GetTopWindow() const;
-    CWnd* GetLastActivePopup() const;
-    CWnd* ChildWindowFromPoint(POINT point) const;
-    CWnd* ChildWindowFromPoint(POINT point, UINT nFlags) const;
-    static CWnd* PASCAL WindowFromPoint(POINT point);
-    static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName);
-    static CWnd* PASCAL FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass,
-                                     LPCTSTR lpszWindow);
-    static CWnd* PASCAL GetDesktopWindow();
 
     // ---- Items of a dialog ----------------------------------------------------------------------
 
@@ -297,17 +216,11 @@ public:
     void GetDlgItem(int nID, HWND* phWnd) const;
     /// The child with that identifier, at any depth.
     CWnd* GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
-    CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
-    CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
-    UINT GetDlgItemInt(int nID, BOOL* lpTrans = NULL, BOOL bSigned = TRUE) const;
-    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
     int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
     int GetDlgItemText(int nID, CString& rString) const;
     void SetDlgItemText(int nID, LPCTSTR lpszString);
     void CheckDlgButton(int nIDButton, UINT nCheck);
-    void CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton);
     UINT IsDlgButtonChecked(int nIDButton) const;
-    int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton);
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL IsDialogMessage(LPMSG lpMsg);
     /// Sends the messages of an RT_DLGINIT resource to the controls.
@@ -325,19 +238,13 @@ public:
     CMenu* GetMenu() const;
     BOOL SetMenu(CMenu* pMenu);
     void DrawMenuBar();
-    CMenu* GetSystemMenu(BOOL bRevert) const;
-    BOOL HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite);
-    BOOL GetMenuBarInfo(LONG idObject, LONG idItem, PMENUBARINFO pmbi) const;
 
     // ---- Messages -------------------------------------------------------------------------------
 
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
                                   BOOL bDeep = TRUE, BOOL bOnlyPerm = FALSE);
-    int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = NULL, UINT nType = MB_OK);
-    void NotifyWinEvent(DWORD event, LONG idObjectType, LONG idObject);
     /// Sees a message before it is dispatched. Nonzero when the message is done with.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Gives the current message of the parent to this control, which may handle it.
@@ -355,9 +262,6 @@ public:
 
     // ---- Tool tips ------------------------------------------------------------------------------
 
-    /// Shows tool tips over the tools of the window. Their text is asked for with TTN_NEEDTEXT,
-    /// which a frame window answers from the string of the tool's identifier.
-    BOOL EnableToolTips(BOOL bEnable = TRUE);
     /// Takes the tool tip away. @param bKeys also the text in the status bar.
     static void PASCAL CancelToolTips(BOOL bKeys = FALSE);
     /// Shows and hides the tool tip by the messages of mouse and keyboard.
@@ -581,7 +485,6 @@ private:
     /// The procedure of the window before it was subclassed; null for the framework's own.
     WNDPROC m_superProc;
     HWND m_ownerHandle;
-    bool m_toolTips;
     /// A modal loop is to go on.
     bool m_modal;
     int m_modalResult;

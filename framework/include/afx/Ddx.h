@@ -39,14 +39,10 @@ private:
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 /// @param nMaxLen size of the buffer, with the null.
@@ -70,17 +66,5 @@ void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 // Each shows a message and calls CDataExchange::Fail() when data to be saved is out of bounds;
 // DDV_MaxChars limits the edit control, too, when data is loaded.
 void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars);
-void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
-void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal);
 void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
-void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
-void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
-                               unsigned maxVal);
-void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD const& value, DWORD minVal, DWORD maxVal);
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
-                               LONGLONG maxVal);
-void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
-                                ULONGLONG maxVal);
-void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal);
 void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal, double maxVal);

@@ -13,23 +13,17 @@ void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nL
 void AFX_CDECL AfxTrace(LPCTSTR lpszFormat, ...);
 /// True when the whole range can be read, and written to if asked for.
 BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite = TRUE);
-/// True when a null-terminated string can be read. -1 stands for any length.
-BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
 [[noreturn]] void AFXAPI AfxThrowInvalidArgException();
 
-// What assertions name as their file. A source may replace it by a variable of its own.
-#define THIS_FILE __FILE__
-#define DEBUG_NEW new
-
 #ifndef NDEBUG
-#define ASSERT(booleanExpression)                 \
-    do {                                          \
-        if (!(booleanExpression)) {               \
-            AfxAssertFailed(THIS_FILE, __LINE__); \
-        }                                         \
+#define ASSERT(booleanExpression)                \
+    do {                                         \
+        if (!(booleanExpression)) {              \
+            AfxAssertFailed(__FILE__, __LINE__); \
+        }                                        \
     } while (0)
 #define VERIFY(booleanExpression) ASSERT(booleanExpression)
-#define ASSERT_VALID(pObject) AfxAssertValidObject(pObject, THIS_FILE, __LINE__)
+#define ASSERT_VALID(pObject) AfxAssertValidObject(pObject, __FILE__, __LINE__)
 #define DEBUG_ONLY(expression) (expression)
 #define TRACE AfxTrace
 #else
@@ -40,18 +34,6 @@ BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
 #define TRACE(...) static_cast<void>(0)
 #endif
 
-#define TRACE0(sz) TRACE("%s", sz)
-#define TRACE1(sz, p1) TRACE(sz, p1)
-#define TRACE2(sz, p1, p2) TRACE(sz, p1, p2)
-#define TRACE3(sz, p1, p2, p3) TRACE(sz, p1, p2, p3)
-
-#define ASSERT_POINTER(p, type) \
-    ASSERT((p) != nullptr && AfxIsValidAddress((p), sizeof(type), FALSE))
-#define ASSERT_NULL_OR_POINTER(p, type) \
-    ASSERT((p) == nullptr || AfxIsValidAddress((p), sizeof(type), FALSE))
-#define ASSERT_KINDOF(class_name, object) \
-    ASSERT((object) != nullptr && (object)->IsKindOf(RUNTIME_CLASS(class_name)))
-
 /// Asserts, and in every build throws CInvalidArgException, when the expression is false.
 #define ENSURE(booleanExpression)                        \
     do {                                                 \
@@ -60,11 +42,4 @@ BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
         if (!afxCondition) {                             \
             AfxThrowInvalidArgException();               \
         }                                                \
-    } while (0)
-#define ENSURE_ARG(booleanExpression) ENSURE(booleanExpression)
-#define ENSURE_VALID(pObject)                       \
-    do {                                            \
-        const CObject* const afxObject = (pObject); \
-        ENSURE(afxObject != nullptr);               \
-        ASSERT_VALID(afxObject);                    \
     } while (0)
