@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "BarAccess.h"
-#include "Handles.h"
 #include "MiniDockFrame.h"
 #include "WndAccess.h"
 #include "afxpriv.h"
@@ -100,6 +99,9 @@ void CControlBar::OnDestroy() {
         }
         m_pDockSite = nullptr;
     }
+    // Of no meaning to another window that the object may be given.
+    m_pending = Pending::Nothing;
+    m_toolShown = -1;
     CWnd::OnDestroy();
 }
 

@@ -37,28 +37,55 @@ void CFrameWnd::RecalcLayout(BOOL) {
     }
 }
 
+namespace {
+
+/// The bar of a window; null when it has ended. Showing a bar calls handlers that may end any.
+CControlBar* BarOf(HWND window) {
+    return DYNAMIC_DOWNCAST(CControlBar, CWnd::FromHandlePermanent(window));
+}
+
+/// Fits the mini frame of a bar that floats and still exists.
+void FitMiniFrame(HWND window) {
+    CControlBar* const bar = BarOf(window);
+    afx::MiniDockFrame* const mini = bar == nullptr ? nullptr : afx::MiniDockFrame::Of(*bar);
+    if (mini != nullptr) {
+        mini->RecalcLayout();
+    }
+}
+
+} // namespace
+
 void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
     if (bDelay) {
         afx::BarAccess::ShowLater(*pBar, bShow != FALSE);
         m_layoutPending = true;
         return;
     }
+    const HWND frame = m_hWnd;
+    const HWND window = pBar->m_hWnd;
     afx::BarAccess::Show(*pBar, bShow != FALSE);
-    if (afx::MiniDockFrame* const mini = afx::MiniDockFrame::Of(*pBar)) {
-        mini->RecalcLayout();
+    FitMiniFrame(window);
+    if (::IsWindow(frame)) {
+        RecalcLayout();
     }
-    RecalcLayout();
 }
 
 LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
-    if (m_layoutPending) {
-        for (POSITION place = m_listControlBars.GetHeadPosition(); place != nullptr;) {
-            auto* const bar = static_cast<CControlBar*>(m_listControlBars.GetNext(place));
+    if (!m_layoutPending) {
+        return 0;
+    }
+    const HWND frame = m_hWnd;
+    std::vector<HWND> windows;
+    for (POSITION place = m_listControlBars.GetHeadPosition(); place != nullptr;) {
+        windows.push_back(static_cast<CControlBar*>(m_listControlBars.GetNext(place))->m_hWnd);
+    }
+    for (const HWND window : windows) {
+        if (CControlBar* const bar = BarOf(window)) {
             afx::BarAccess::ShowPending(*bar);
-            if (afx::MiniDockFrame* const mini = afx::MiniDockFrame::Of(*bar)) {
-                mini->RecalcLayout();
-            }
+            FitMiniFrame(window);
         }
+    }
+    if (::IsWindow(frame)) {
         RecalcLayout();
     }
     return 0;

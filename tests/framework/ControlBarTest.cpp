@@ -133,11 +133,45 @@ TEST_F(ControlBarTest, FloatingBarsHaveAFrameOfTheirSize) {
     // It takes its frame along, and can be created once more.
     m_frame->FloatControlBar(&Tools(), CPoint(200, 180));
     const HWND second = Tools().GetDockingFrame()->m_hWnd;
+    m_frame->ShowControlBar(&Tools(), FALSE, TRUE);
     Tools().DestroyWindow();
     PumpFor();
     EXPECT_FALSE(::IsWindow(second));
     EXPECT_TRUE(Tools().CreateEx(m_frame));
     EXPECT_TRUE(Tools().LoadToolBar(101));
+    // What was put off for the first window is not done to the new one.
+    AfxGetApp()->OnIdle(0);
+    EXPECT_TRUE(Tools().IsWindowVisible());
+}
+
+/// Ends another bar when it is shown or hidden, and writes to the memory that becomes free.
+class Ender : public CToolBar {
+public:
+    std::unique_ptr<CToolBar> m_other = std::make_unique<CToolBar>();
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_WINDOWPOSCHANGED && m_other != nullptr) {
+            m_other.reset();
+            for (int i = 0; i < 200; ++i)
+                m_written.emplace_back(32, BYTE{0xEE});
+        }
+        return CToolBar::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    std::vector<std::vector<BYTE>> m_written;
+};
+
+TEST_F(ControlBarTest, ABarMayEndAnotherWhenItIsShownLater) {
+    Ender first;
+    for (CToolBar* const bar : {static_cast<CToolBar*>(&first), first.m_other.get()})
+        ASSERT_TRUE(bar->Create(m_frame, WS_CHILD | CBRS_TOP, AFX_IDW_CONTROLBAR_FIRST + 0x43));
+    m_frame->ShowControlBar(first.m_other.get(), TRUE, TRUE);
+    m_frame->ShowControlBar(&first, TRUE, TRUE);
+    AfxGetApp()->OnIdle(0);
+    EXPECT_EQ(first.m_other, nullptr);
+    EXPECT_TRUE(first.IsWindowVisible());
 }
 
 TEST_F(ControlBarTest, AWishForLengthWrapsBetweenGroups) {
