@@ -17,18 +17,10 @@
 #define WM_IDLEUPDATECMDUI 0x0363
 /// Sent to the descendants of a frame once they may update themselves.
 #define WM_INITIALUPDATE 0x0364
-/// Posted to a frame to leave the help mode.
-#define WM_EXITHELPMODE 0x0367
-/// To the parent: lay yourself out again.
-#define WM_RECALCPARENT 0x0368
-/// From a resize bar to its owner. lParam: the new rectangle.
-#define WM_SIZECHILD 0x0369
 /// Sent to a window in a modal loop when it is idle. wParam: MSGF_ code, lParam: count.
 #define WM_KICKIDLE 0x036A
 /// To the popups of a frame that enters a modal state: nonzero to stay enabled.
 #define WM_DISABLEMODAL 0x036C
-/// To the popups of a frame whose activation changes. wParam: FS_ flags.
-#define WM_FLOATSTATUS 0x036D
 /// To a top-level window when one of its group is activated. wParam: WA_ state.
 #define WM_ACTIVATETOPLEVEL 0x036E
 

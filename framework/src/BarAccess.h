@@ -6,7 +6,7 @@
 
 namespace afx {
 
-/// Lets the framework's own sources at the private part of control bars.
+/// Gives the framework's own sources access to the private part of control bars.
 struct BarAccess {
     /// Sides the bar may be docked to.
     static DWORD DockStyle(const CControlBar& bar) { return bar.m_dockStyle; }
@@ -26,7 +26,7 @@ struct BarAccess {
     static bool IsShown(const CControlBar& bar);
 };
 
-/// Lets the framework's own sources at the private part of frame windows.
+/// Gives the framework's own sources access to the private part of frame windows.
 struct FrameAccess {
     static DWORD DockSides(const CFrameWnd& frame) { return frame.m_dockSides; }
     static CDockBar* DockBarOfSide(const CFrameWnd& frame, std::size_t side) {

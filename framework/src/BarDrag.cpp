@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 #include "BarAccess.h"
-#include "Handles.h"
 #include "afxpriv.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 CCmdUI::CCmdUI()
     : m_nID(0), m_nIndex(0), m_pMenu(nullptr), m_pSubMenu(nullptr), m_pOther(nullptr),
-      m_enableChanged(false), m_continueRouting(false), m_itemCount(0), m_pParentMenu(nullptr) {}
+      m_enableChanged(false), m_continueRouting(false) {}
 
 void CCmdUI::ContinueRouting() {
     m_continueRouting = true;

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "BarAccess.h"
-#include "Handles.h"
 #include "afxpriv.h"
 
 IMPLEMENT_DYNAMIC(CDockBar, CControlBar)

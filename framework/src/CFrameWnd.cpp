@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "BarAccess.h"
 #include "Handles.h"
 #include "ThreadState.h"
 #include "afxpriv.h"

@@ -3,30 +3,12 @@
 #include <afxext.h>
 
 #include "CmdUIAccess.h"
-#include "Handles.h"
-#include "MultiByte.h"
 #include "afxpriv.h"
 
 namespace {
 
 constexpr UINT NoItem = static_cast<UINT>(-1);
 constexpr UINT FirstSystemCommand = 0xF000;
-
-/// The menu bar's menu that holds a popup, where the popup stands for one item; null otherwise.
-CMenu* ParentOfPopup(const CFrameWnd& frame, HMENU popup) {
-    CMenu* const bar = frame.GetMenu();
-    if (bar == nullptr || bar->m_hMenu == popup) {
-        return nullptr;
-    }
-    const auto count = static_cast<int>(bar->GetMenuItemCount());
-    for (int i = 0; i < count; ++i) {
-        const CMenu* const child = bar->GetSubMenu(i);
-        if (child != nullptr && child->m_hMenu == popup) {
-            return bar;
-        }
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -61,10 +43,8 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
     }
     CCmdUI item;
     item.m_pMenu = pPopupMenu;
-    afx::CmdUIAccess::SetParentMenu(item, ParentOfPopup(*this, pPopupMenu->m_hMenu));
     UINT count = pPopupMenu->GetMenuItemCount();
     for (item.m_nIndex = 0; item.m_nIndex < count && count != NoItem; ++item.m_nIndex) {
-        afx::CmdUIAccess::SetItemCount(item, count);
         UpdatePopupItem(item, *pPopupMenu);
         // A handler may put items in the place of its own: those need no update any more.
         const UINT after = pPopupMenu->GetMenuItemCount();

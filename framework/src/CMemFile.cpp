@@ -18,8 +18,8 @@ CMemFile::CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes) : m_growBy
 }
 
 CMemFile::~CMemFile() {
-    // The block goes by the function that made it only as long as this class's own version is
-    // meant: a derived class with its own Alloc closes the file in its own destructor.
+    // By now no override of Free is called: a derived class with its own Alloc has to close the file
+    // in its own destructor.
     if (m_ownsBlock) {
         CMemFile::Free(m_block);
     }

@@ -2,7 +2,6 @@
 #include "afx/CMenu.h"
 
 #include "HandleMap.h"
-#include "Handles.h"
 #include "ModuleState.h"
 #include "afx/CWnd.h"
 

@@ -2,7 +2,6 @@
 #include "afx/CObject.h"
 
 #include "afx/CDumpContext.h"
-#include "afx/Diagnostics.h"
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr, nullptr};
 
@@ -20,10 +19,6 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
 
 void CObject::Serialize(CArchive& ar) {
     UNUSED_ALWAYS(ar);
-}
-
-void CObject::AssertValid() const {
-    ASSERT(this->GetRuntimeClass() != nullptr);
 }
 
 void CObject::Dump(CDumpContext& dc) const {

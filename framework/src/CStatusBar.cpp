@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "CmdUIAccess.h"
-#include "Handles.h"
 
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
@@ -302,10 +301,7 @@ namespace {
 /// One pane while its state is updated.
 class PaneItem : public CCmdUI {
 public:
-    PaneItem(CStatusBar& bar, UINT count) : m_bar(bar) {
-        m_pOther = &bar;
-        afx::CmdUIAccess::SetItemCount(*this, count);
-    }
+    explicit PaneItem(CStatusBar& bar) : m_bar(bar) { m_pOther = &bar; }
 
     void Enable(BOOL bOn) override {
         afx::CmdUIAccess::EnableChanged(*this);
@@ -328,7 +324,7 @@ private:
 } // namespace
 
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    PaneItem item(*this, static_cast<UINT>(m_panes.size()));
+    PaneItem item(*this);
     // By number, not by iterator: a handler may change the panes.
     for (int i = 0; i < ItemCount(); ++i) {
         item.m_nIndex = static_cast<UINT>(i);

@@ -77,10 +77,6 @@ CString& CString::operator=(const CString& strSrc) {
     if (source == block()) {
         return *this;
     }
-    if (source->isLocked() || block()->isLocked()) {
-        assignBytes(strSrc.m_characters, source->length);
-        return *this;
-    }
     if (!source->isEmptyBlock()) {
         source->references.fetch_add(1);
     }
@@ -149,12 +145,10 @@ void CString::assignBytes(const char* text, int length) {
         return;
     }
     if (!block()->isExclusive() || length > block()->capacity) {
-        const bool wasLocked = block()->isLocked();
         StringBlock* const fresh = StringBlock::allocate(length);
         std::memcpy(fresh->text(), text, static_cast<size_t>(length));
         StringBlock::release(block());
         m_characters = fresh->text();
-        fresh->references = wasLocked ? StringBlock::locked : 1;
     } else {
         std::memmove(m_characters, text, static_cast<size_t>(length));
     }
@@ -209,10 +203,6 @@ bool CString::IsEmpty() const noexcept {
 }
 
 void CString::Empty() noexcept {
-    if (block()->isLocked()) {
-        setLength(0);
-        return;
-    }
     StringBlock::release(block());
     m_characters = StringBlock::empty()->text();
 }

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 
-#include "Handles.h"
-
 IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CToolBar, CControlBar)

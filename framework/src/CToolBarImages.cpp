@@ -4,8 +4,6 @@
 
 #include <cstring>
 
-#include "Handles.h"
-
 namespace {
 
 /// Head of an RT_TOOLBAR resource; the commands follow as WORDs, 0 for a separator.

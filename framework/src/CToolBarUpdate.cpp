@@ -9,10 +9,7 @@ namespace {
 /// One button while its state is updated.
 class ButtonItem : public CCmdUI {
 public:
-    ButtonItem(CToolBar& bar, UINT count) : m_bar(bar) {
-        m_pOther = &bar;
-        afx::CmdUIAccess::SetItemCount(*this, count);
-    }
+    explicit ButtonItem(CToolBar& bar) : m_bar(bar) { m_pOther = &bar; }
 
     void Enable(BOOL bOn) override {
         afx::CmdUIAccess::EnableChanged(*this);
@@ -38,7 +35,7 @@ private:
 
 void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     const int count = GetCount();
-    ButtonItem item(*this, static_cast<UINT>(count));
+    ButtonItem item(*this);
     for (int i = 0; i < count; ++i) {
         TBBUTTON button;
         if (!GetButton(i, button) || (button.fsStyle & TBSTYLE_SEP) != 0) {

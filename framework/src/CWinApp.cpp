@@ -106,10 +106,6 @@ BOOL CWinApp::PreTranslateMessage(MSG* pMsg) {
     return CWinThread::PreTranslateMessage(pMsg);
 }
 
-BOOL CWinApp::ProcessMessageFilter(int code, LPMSG lpMsg) {
-    return CWinThread::ProcessMessageFilter(code, lpMsg);
-}
-
 LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
     if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
         return CWinThread::ProcessWndProcException(e, pMsg);

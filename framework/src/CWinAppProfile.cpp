@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 namespace {
@@ -63,7 +64,7 @@ constexpr DWORD MaxIniText = 0x8000;
 
 /// Reads an entry of an INI file. False when it is missing.
 bool ReadIni(LPCTSTR file, LPCTSTR section, LPCTSTR entry, CString& text) {
-    // Two defaults tell a missing entry from one that happens to hold the default.
+    // A default that no program writes tells a missing entry from an empty one.
     std::vector<char> buffer(MaxIniText);
     ::GetPrivateProfileString(section, entry, "\x01", buffer.data(), MaxIniText, file);
     if (buffer[0] == '\x01' && buffer[1] == '\0') {
@@ -123,7 +124,7 @@ UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault
     std::vector<BYTE> data;
     DWORD value = static_cast<DWORD>(nDefault);
     if (section && ReadValue(section, lpszEntry, REG_DWORD, data) && data.size() == sizeof(value)) {
-        memcpy(&value, data.data(), sizeof(value));
+        std::memcpy(&value, data.data(), sizeof(value));
     }
     return value;
 }
@@ -173,7 +174,5 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
     }
     return WriteValue(section, lpszEntry, REG_SZ, lpszValue,
-                      static_cast<DWORD>(strlen(lpszValue) + 1));
+                      static_cast<DWORD>(std::strlen(lpszValue) + 1));
 }
-
-// ---- Bytes --------------------------------------------------------------------------------------

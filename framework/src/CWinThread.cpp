@@ -148,10 +148,6 @@ BOOL CWinThread::DispatchThreadMessage(MSG* msg) {
     return entry->pfn(this, call);
 }
 
-BOOL CWinThread::ProcessMessageFilter(int, LPMSG) {
-    return FALSE;
-}
-
 CWnd* CWinThread::GetMainWnd() {
     return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd;
 }

@@ -9,7 +9,6 @@
 #include "HandleMap.h"
 #include "Handles.h"
 #include "ModuleState.h"
-#include "ThreadState.h"
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
 

@@ -2,7 +2,6 @@
 // CWnd: the layout of control bars among the children of a window.
 #include <afxext.h>
 
-#include "Handles.h"
 #include "afxpriv.h"
 
 namespace {

@@ -7,7 +7,6 @@
 
 #include "ModuleState.h"
 #include "CmdUIAccess.h"
-#include "Handles.h"
 #include "ThreadState.h"
 
 CWnd* CWnd::GetDlgItem(int nID) const {

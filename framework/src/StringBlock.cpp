@@ -41,15 +41,14 @@ void StringBlock::release(StringBlock* block) noexcept {
     if (block->isEmptyBlock()) {
         return;
     }
-    if (block->isLocked() || block->references.fetch_sub(1) == 1) {
+    if (block->references.fetch_sub(1) == 1) {
         block->~StringBlock();
         ::operator delete(block);
     }
 }
 
 bool StringBlock::isExclusive() const noexcept {
-    const long count = references.load();
-    return !isEmptyBlock() && (count == 1 || count == locked);
+    return !isEmptyBlock() && references.load() == 1;
 }
 
 } // namespace afx

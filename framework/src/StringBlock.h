@@ -7,11 +7,9 @@ namespace afx {
 
 /// What stands in memory before the characters of a CString.
 ///
-/// Blocks are shared while more than one string refers to them. A block with the reference count
-/// `locked` belongs to one string for good. The block of all empty strings is never freed.
+/// Blocks are shared while more than one string refers to them. The block of all empty strings is
+/// never freed.
 struct StringBlock {
-    static constexpr long locked = -1;
-
     std::atomic<long> references;
     /// Characters in use, without the terminating null.
     int length;
@@ -28,7 +26,6 @@ struct StringBlock {
     static void release(StringBlock* block) noexcept;
 
     bool isEmptyBlock() const noexcept { return this == empty(); }
-    bool isLocked() const noexcept { return references.load() == locked; }
     /// True when changing the characters is seen by no other string.
     bool isExclusive() const noexcept;
 };

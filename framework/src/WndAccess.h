@@ -5,18 +5,14 @@
 
 namespace afx {
 
-/// Lets the framework's own sources at the private part of the window classes.
+/// Gives the framework's own sources access to the private part of CWnd.
 struct WndAccess {
     static CFrameWnd* AsFrameWnd(CWnd& wnd) { return wnd.AsFrameWnd(); }
     static WNDPROC& SuperProc(CWnd& wnd) { return wnd.m_superProc; }
-    static BOOL CreateHandle(CWnd& wnd, CREATESTRUCT& cs) { return wnd.CreateHandle(cs); }
     static LRESULT CallWindowProc(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam) {
         return wnd.WindowProc(message, wParam, lParam);
     }
     static void PostNcDestroy(CWnd& wnd) { wnd.PostNcDestroy(); }
-    static BOOL DispatchThreadMessage(CWinThread& thread, MSG* msg) {
-        return thread.DispatchThreadMessage(msg);
-    }
 };
 
 /// The window's PreTranslateMessage(), then that of its parents and owners, up to and including

@@ -3,9 +3,6 @@
 
 #include "afx/CGdiObject.h"
 
-#include <atltypes.h>
-#include <commctrl.h>
-
 class CDC;
 
 /// A GDI bitmap.

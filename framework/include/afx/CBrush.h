@@ -3,7 +3,7 @@
 
 #include "afx/CGdiObject.h"
 
-/// A GDI brush. The constructors with arguments throw CResourceException when it cannot be made.
+/// A GDI brush. The constructor with a colour throws CResourceException when it cannot be made.
 class CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 

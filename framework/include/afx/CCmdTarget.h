@@ -89,8 +89,4 @@ private:
 
     bool m_enableChanged;
     bool m_continueRouting;
-    /// Number of items in the menu or bar.
-    UINT m_itemCount;
-    /// The menu that holds m_pMenu, if the first item of m_pMenu stands for the whole popup.
-    CMenu* m_pParentMenu;
 };

@@ -22,8 +22,8 @@ class CWnd;
 /// drawn, and zero, null or the function's own error value comes back. Pointers to objects that a
 /// function returns may be temporary, see CGdiObject.
 ///
-/// The forms that take a CString, a POINT or a SIZE call the virtual form, so that a derived class
-/// overrides one function to see all calls.
+/// The forms that take a CString, a POINT or a RECT call the virtual form where there is one, so that
+/// a derived class overrides one function to see all calls.
 class CDC : public CObject {
     DECLARE_DYNAMIC(CDC)
 
@@ -224,7 +224,7 @@ public:
                                 LPINT lpnTabStopPositions, int nTabOrigin);
 
     /// Height of the text, zero on failure. With DT_CALCRECT nothing is drawn and `lpRect` becomes
-    /// as large as the text. The CString forms never change the string (no DT_MODIFYSTRING).
+    /// as large as the text. The CString form never changes the string (no DT_MODIFYSTRING).
     /// @param nCount  -1 for a terminated text.
     virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat);
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat);

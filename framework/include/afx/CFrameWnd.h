@@ -22,8 +22,6 @@ struct FrameAccess;
 #define FWS_ADDTOTITLE 0x00008000L
 /// That title comes first.
 #define FWS_PREFIXTITLE 0x00004000L
-/// The frame is made to fit the bars in it.
-#define FWS_SNAPTOBARS 0x00002000L
 
 /// A frame window. Create it on the heap: it deletes itself when its window is destroyed.
 ///

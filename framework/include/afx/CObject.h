@@ -16,8 +16,6 @@ public:
 
     /// Stores the object to the archive or loads it. The root has nothing to store.
     virtual void Serialize(CArchive& ar);
-    /// Asserts that the state of the object is sound.
-    virtual void AssertValid() const;
     /// Writes the state of the object for a person to read.
     virtual void Dump(CDumpContext& dc) const;
 

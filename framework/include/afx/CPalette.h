@@ -3,8 +3,6 @@
 
 #include "afx/CGdiObject.h"
 
-class CDC;
-
 /// A GDI colour palette.
 class CPalette : public CGdiObject {
     DECLARE_DYNAMIC(CPalette)

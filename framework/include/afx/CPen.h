@@ -3,7 +3,7 @@
 
 #include "afx/CGdiObject.h"
 
-/// A GDI pen. The constructors with arguments throw CResourceException when the pen cannot be made.
+/// A GDI pen. The constructor with arguments throws CResourceException when it cannot be made.
 class CPen : public CGdiObject {
     DECLARE_DYNAMIC(CPen)
 

@@ -3,8 +3,7 @@
 
 #include "afx/CGdiObject.h"
 
-/// A GDI region. Functions that return int give the complexity of the result: NULLREGION,
-/// SIMPLEREGION, COMPLEXREGION, or ERROR.
+/// A GDI region.
 class CRgn : public CGdiObject {
     DECLARE_DYNAMIC(CRgn)
 

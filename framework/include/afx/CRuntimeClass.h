@@ -66,6 +66,5 @@ public:
 /// The pointer as a pointer to class_name, null when the object is of another kind.
 #define DYNAMIC_DOWNCAST(class_name, object) \
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
-/// The pointer as a pointer to class_name; the kind is only checked by an assertion.
 
 CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);

@@ -11,7 +11,6 @@
 #include "afx/Types.h"
 
 #include <cstdarg>
-#include <cstddef>
 
 namespace afx {
 struct StringBlock;

@@ -48,7 +48,6 @@ public:
     int Run() override;
     BOOL OnIdle(LONG lCount) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    BOOL ProcessMessageFilter(int code, LPMSG lpMsg) override;
     LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
     /// Shows the box of AfxMessageBox().
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
@@ -59,8 +58,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend struct afx::WndAccess;
-
     void InitNames();
     void OnAppExit();
     HKEY OpenAppKey();
@@ -73,7 +70,7 @@ private:
 
 /// The application object; null in a program without one.
 CWinApp* AFXAPI AfxGetApp();
-/// The main window of the calling thread, else of the application; may be null.
+/// The main window of the calling thread; null when the thread has no object or no window.
 CWnd* AFXAPI AfxGetMainWnd();
 HINSTANCE AFXAPI AfxGetInstanceHandle();
 HINSTANCE AFXAPI AfxGetResourceHandle();

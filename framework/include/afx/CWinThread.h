@@ -36,8 +36,6 @@ public:
     virtual BOOL OnIdle(LONG lCount);
     /// FALSE for messages after which OnIdle() need not be called.
     virtual BOOL IsIdleMessage(MSG* pMsg);
-    /// Called for the messages of dialogs, message boxes and menus. @param code MSGF_ code.
-    virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
     /// Answers a message whose handler has thrown.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
     virtual CWnd* GetMainWnd();
@@ -45,8 +43,6 @@ public:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend struct afx::WndAccess;
-
     BOOL DispatchThreadMessage(MSG* msg);
 
     /// Where the mouse was at the last mouse message, in screen coordinates.

@@ -30,6 +30,5 @@
 #include <windowsx.h>
 #include <tchar.h>
 
-// Both names are member functions of the framework (CWnd, CRgn).
+// The name is a member function of CWnd.
 #undef SubclassWindow
-#undef CopyRgn

@@ -13,11 +13,6 @@
 
 /// Silences the warning about a parameter that a function does not use.
 #define UNUSED_ALWAYS(x) static_cast<void>(x)
-#ifdef NDEBUG
-#define UNUSED(x) static_cast<void>(x)
-#else
-#define UNUSED(x)
-#endif
 
 struct __POSITION {};
 /// Place of an element in a collection; null is the place behind the last one.
