@@ -103,6 +103,18 @@ TEST(BaseArchive, StringsLongerThanTheFileAreRefused) {
     EXPECT_EQ(CArchiveException::badIndex, Fault({0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF}, LoadText));
 }
 
+TEST(BaseArchive, FlushWhileLoadingGivesTheFileItsPlace) {
+    Bytes bytes = {1, 2, 3};
+    CMemFile file(bytes.data(), static_cast<UINT>(bytes.size()));
+    CArchive archive(&file, CArchive::load);
+    BYTE first = 0, second = 0;
+    archive >> first;
+    archive.Flush();
+    EXPECT_EQ(1u, file.GetPosition());
+    archive >> second;
+    EXPECT_EQ(2, second);
+}
+
 TEST(BaseArchive, BufferOfAnySizeGivesTheSameBytes) {
     std::string block(1000, 'b');
     const auto store = [&](CArchive& archive) {

@@ -344,6 +344,13 @@ TEST_F(ControlBarTest, TheButtonUnderTheMouseHasATip) {
     })) << tip;
     automation::MoveMouse(CPoint(0, 0));
     EXPECT_TRUE(shown("Ready"));
+    automation::MoveMouse(rect.CenterPoint());
+    EXPECT_TRUE(shown("What the command does"));
+    automation::PressMouse(); // ends the tip
+    EXPECT_TRUE(shown("Ready"));
+    automation::ReleaseMouse();
+    automation::MoveMouse(CPoint(0, 0));
+    PumpFor(50);
 }
 
 TEST(ControlBarEnd, NothingIsLeftBehind) {

@@ -111,6 +111,33 @@ TEST_F(FrameTest, ModalStatesNestAndEnableWhatTheyDisabled) {
     m_frame->EndModalState();
     EXPECT_TRUE(m_frame->IsWindowEnabled());
     EXPECT_TRUE(mini->IsWindowEnabled());
+    mini->EnableWindow(FALSE);
+    m_frame->BeginModalState();
+    m_frame->EndModalState();
+    EXPECT_FALSE(mini->IsWindowEnabled()) << "it was disabled before";
+}
+
+/// Puts an item before that of a command when it is updated.
+class GrowingMenu : public CFrameWnd {
+public:
+    int m_updates = 0;
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (id != 203 || code != CN_UPDATE_COMMAND_UI)
+            return CFrameWnd::OnCmdMsg(id, code, extra, info);
+        const auto* const item = static_cast<CCmdUI*>(extra);
+        if (++m_updates == 1)
+            item->m_pMenu->InsertMenu(item->m_nIndex, MF_BYPOSITION, 210, "New");
+        return TRUE;
+    }
+};
+
+TEST(Frame, AnItemIsUpdatedOnceThoughItsMenuGrows) {
+    auto* const frame = std::make_unique<GrowingMenu>().release();
+    ASSERT_TRUE(frame->LoadFrame(102, WS_POPUP));
+    const HMENU popup = frame->GetMenu()->GetSubMenu(0)->m_hMenu;
+    frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup), 0);
+    EXPECT_EQ(frame->m_updates, 1);
+    frame->DestroyWindow();
 }
 
 // ---- MDI ----------------------------------------------------------------------------------------
@@ -180,6 +207,14 @@ TEST(Mdi, TheActiveChildBringsItsMenuAndComesFirst) {
     // The standard commands, and the name of each child in the menu.
     frame->MDINext();
     EXPECT_EQ(frame->MDIGetActive(), second);
+    BYTE keys[256] = {};
+    keys[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(keys);
+    MSG next = {second->m_hWnd, WM_KEYDOWN, VK_F6, 1, 0, {}};
+    EXPECT_TRUE(frame->PreTranslateMessage(&next));
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
+    EXPECT_EQ(frame->MDIGetActive(), first);
     EXPECT_EQ(frame->GetWindowMenuPopup(own.m_hMenu), own.GetSubMenu(1)->m_hMenu);
     EXPECT_GE(own.GetSubMenu(1)->GetMenuItemCount(), 4u);
     second->DestroyWindow();
