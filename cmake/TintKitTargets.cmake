@@ -38,7 +38,7 @@ endfunction()
 
 # tintkit_add_test(NAME [RETRIES_WINE_FAULTS] TIMEOUT SECONDS SOURCES ... LIBRARIES ...): the program
 # NAME_test, run as one test. A message box that waits for ever is ended by the time limit; a crash is
-# a failure. With RETRIES_WINE_FAULTS, a run that an assertion of Wine's own has ended is repeated.
+# a failure. With RETRIES_WINE_FAULTS, a run that a fault of Wine's own has ended is repeated.
 function(tintkit_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "RETRIES_WINE_FAULTS" "TIMEOUT" "SOURCES;LIBRARIES")
     if(WIN32)
