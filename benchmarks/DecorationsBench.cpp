@@ -17,6 +17,8 @@ CRect PlaceAt(int top, CSize size) {
     return {CPoint(10, top), size};
 }
 
+} // namespace
+
 std::vector<Row> BenchLink() {
     BenchHost host(CSize(240, 120));
     const CSize size(180, 16);
@@ -64,15 +66,4 @@ std::vector<Row> BenchPicture() {
                    {{"ImageStatic", [&] { Repaint(ours); }},
                     {"the system's own with a bitmap", [&] { Repaint(system); }}},
                    kBatch);
-}
-
-} // namespace
-
-std::vector<Row> BenchDecorations() {
-    std::vector<Row> rows = BenchLink();
-    for (const auto& bench : {BenchBitmapButton, BenchPicture}) {
-        const std::vector<Row> more = bench();
-        rows.insert(rows.end(), more.begin(), more.end());
-    }
-    return rows;
 }

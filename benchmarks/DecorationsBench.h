@@ -5,6 +5,13 @@
 
 #include "benchmarks/Comparison.h"
 
-/// Painting a link, a button made of pictures and a static that shows a picture file, each against the
-/// control of the system's that a user would take for it: a text, a button and a static with a bitmap.
-std::vector<Row> BenchDecorations();
+// Each against the control of the system's that a user would take for it.
+
+/// Painting a link against a static text.
+std::vector<Row> BenchLink();
+
+/// Painting a button made of pictures against a button with a bitmap.
+std::vector<Row> BenchBitmapButton();
+
+/// Painting a static that shows a picture file against one with a bitmap.
+std::vector<Row> BenchPicture();

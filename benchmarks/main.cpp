@@ -29,10 +29,16 @@ struct Subject {
 };
 
 constexpr Subject kSubjects[] = {
-    {"button", BenchButton}, {"glyph", BenchGlyph},
-    {"combo", BenchCombo},   {"decorations", BenchDecorations},
-    {"list", BenchList},     {"toolbar", BenchToolBar},
-    {"menu", BenchMenus},    {"popup", BenchMenuOpen},
+    {"button", BenchButton},
+    {"glyph", BenchGlyph},
+    {"combo", BenchCombo},
+    {"link", BenchLink},
+    {"bitmap-button", BenchBitmapButton},
+    {"picture", BenchPicture},
+    {"list", BenchList},
+    {"toolbar", BenchToolBar},
+    {"menu", BenchMenus},
+    {"popup", BenchMenuOpen},
     {"dialog", BenchDialog},
 };
 
