@@ -16,31 +16,13 @@ COLORREF System(int index) {
     return ::GetSysColor(index);
 }
 
-using Pairs = std::vector<ColorPair>;
+using MenuPairs = std::array<ColorPair, 7>;
 
-void AddControls(Pairs& pairs) {
-    const Pairs controls = {
-        {"Button", System(COLOR_BTNTEXT), tint::FaceTint(15), false},
-        {"Button, hot", kBlack, tint::HighlightTint(80, -66), false},
-        {"Button, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
-        {"Button, disabled", System(COLOR_GRAYTEXT), tint::FaceTint(15), true},
-        {"Glyph", System(COLOR_BTNTEXT), System(COLOR_BTNFACE), false},
-        {"Glyph, hot", kBlack, tint::HighlightTint(70, -57), false},
-        {"Glyph, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
-        {"Glyph, disabled", System(COLOR_GRAYTEXT), System(COLOR_BTNFACE), true},
-        {"List", System(COLOR_WINDOWTEXT), System(COLOR_WINDOW), false},
-        {"List, selected", System(COLOR_HIGHLIGHTTEXT), System(COLOR_HIGHLIGHT), false},
-        {"Toolbar arrow", System(COLOR_BTNTEXT), tint::FaceTint(20), false},
-        {"Toolbar arrow, hot", kBlack, tint::HighlightTint(70, -57), false},
-    };
-    pairs.insert(pairs.end(), controls.begin(), controls.end());
-}
-
-void AddMenus(Pairs& pairs) {
+MenuPairs SkinnedMenus() {
     auto& look = tint::MenuLook::Get();
     const COLORREF text = System(COLOR_MENUTEXT);
     const COLORREF pale = tint::FaceTint(-18);
-    const Pairs menus = {
+    return {{
         {"Menu bar", text, System(COLOR_BTNFACE), false},
         {"Menu bar, hot", text, tint::HighlightTint(70, -57), false},
         {"Menu bar, open", text, tint::FaceTint(20), false},
@@ -48,17 +30,16 @@ void AddMenus(Pairs& pairs) {
         {"Menu", text, look.GradientEnd(), false},
         {"Menu, selected", text, look.GradientStart(), false}, // the dark end of the gradient
         {"Menu, disabled", pale, look.GradientEnd(), true},
-    };
-    pairs.insert(pairs.end(), menus.begin(), menus.end());
+    }};
 }
 
-/// Menus when the user asks for high contrast: the system's colours as they are.
-void AddPlainMenus(Pairs& pairs) {
+/// When the user asks for high contrast: the system's colours as they are.
+MenuPairs PlainMenus() {
     const COLORREF text = System(COLOR_MENUTEXT);
     const COLORREF grey = System(COLOR_GRAYTEXT);
     const COLORREF selectedText = System(COLOR_HIGHLIGHTTEXT);
     const COLORREF selected = System(COLOR_HIGHLIGHT);
-    const Pairs menus = {
+    return {{
         {"Menu bar", text, System(COLOR_BTNFACE), false},
         {"Menu bar, hot", selectedText, selected, false},
         {"Menu bar, open", text, tint::FaceTint(20), false},
@@ -66,18 +47,7 @@ void AddPlainMenus(Pairs& pairs) {
         {"Menu", text, System(COLOR_MENU), false},
         {"Menu, selected", selectedText, selected, false},
         {"Menu, disabled", grey, System(COLOR_MENU), true},
-    };
-    pairs.insert(pairs.end(), menus.begin(), menus.end());
-}
-
-void AddLinks(Pairs& pairs) {
-    // A link's own colours do not follow the scheme; a program may set others.
-    const Pairs links = {
-        {"Link", RGB(0, 0, 238), System(COLOR_BTNFACE), false},
-        {"Link, visited", RGB(85, 26, 139), System(COLOR_BTNFACE), false},
-        {"Link, hot", RGB(255, 0, 0), System(COLOR_BTNFACE), false},
-    };
-    pairs.insert(pairs.end(), links.begin(), links.end());
+    }};
 }
 
 double Linear(int channel) {
@@ -92,15 +62,33 @@ double Luminance(COLORREF color) {
 
 } // namespace
 
-std::vector<ColorPair> ColorPairs() {
-    Pairs pairs;
-    AddControls(pairs);
-    if (tint::IsHighContrast())
-        AddPlainMenus(pairs);
-    else
-        AddMenus(pairs);
-    AddLinks(pairs);
-    return pairs;
+std::array<ColorPair, 22> ColorPairs() {
+    const MenuPairs menus = tint::IsHighContrast() ? PlainMenus() : SkinnedMenus();
+    return {{
+        {"Button", System(COLOR_BTNTEXT), tint::FaceTint(15), false},
+        {"Button, hot", kBlack, tint::HighlightTint(80, -66), false},
+        {"Button, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
+        {"Button, disabled", System(COLOR_GRAYTEXT), tint::FaceTint(15), true},
+        {"Glyph", System(COLOR_BTNTEXT), System(COLOR_BTNFACE), false},
+        {"Glyph, hot", kBlack, tint::HighlightTint(70, -57), false},
+        {"Glyph, pressed", kNearlyWhite, tint::HighlightTint(50, -50), false},
+        {"Glyph, disabled", System(COLOR_GRAYTEXT), System(COLOR_BTNFACE), true},
+        {"List", System(COLOR_WINDOWTEXT), System(COLOR_WINDOW), false},
+        {"List, selected", System(COLOR_HIGHLIGHTTEXT), System(COLOR_HIGHLIGHT), false},
+        {"Toolbar arrow", System(COLOR_BTNTEXT), tint::FaceTint(20), false},
+        {"Toolbar arrow, hot", kBlack, tint::HighlightTint(70, -57), false},
+        menus[0],
+        menus[1],
+        menus[2],
+        menus[3],
+        menus[4],
+        menus[5],
+        menus[6],
+        // A link's own colours do not follow the scheme; a program may set others.
+        {"Link", RGB(0, 0, 238), System(COLOR_BTNFACE), false},
+        {"Link, visited", RGB(85, 26, 139), System(COLOR_BTNFACE), false},
+        {"Link, hot", RGB(255, 0, 0), System(COLOR_BTNFACE), false},
+    }};
 }
 
 double ContrastRatio(COLORREF text, COLORREF background) {

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include <vector>
+#include <array>
 
 /// A text colour and what lies under it, as the toolkit paints them somewhere.
 struct ColorPair {
@@ -14,7 +14,7 @@ struct ColorPair {
 };
 
 /// The pairs under the system colours of this moment.
-std::vector<ColorPair> ColorPairs();
+std::array<ColorPair, 22> ColorPairs();
 
 /// How well a text can be read: from 1 (not at all) to 21 (black on white).
 ///

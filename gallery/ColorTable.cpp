@@ -41,7 +41,7 @@ void DrawPair(CDC& dc, const ColorPair& pair, const CRect& cell) {
 } // namespace
 
 void CColorTable::Draw(CDC& dc, const CRect& client) {
-    const std::vector<ColorPair> pairs = ColorPairs();
+    const auto pairs = ColorPairs();
     const int count = static_cast<int>(pairs.size());
     for (int i = 0; i < count; ++i)
         DrawPair(dc, pairs[i], CellAt(client, i, (count + kColumns - 1) / kColumns));
